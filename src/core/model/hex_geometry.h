@@ -1,0 +1,44 @@
+// Hex geometry of the map: rows are horizontal, every odd row shifted half a
+// hex east. Directions 1..6 run clockwise from the north-west side.
+#pragma once
+
+namespace mf {
+
+struct HexXY {
+  int x = 0;
+  int y = 0;
+};
+
+// Neighbour of (x, y) in direction 1..6. Each coordinate off the map becomes
+// 0 by itself, so (0, 5) is possible: callers test both for > 0.
+HexXY Neighbour(int x, int y, int direction);
+// Walked number of hexes from the first hex to the second; 101 when the walk
+// has not arrived after 100 steps.
+int Distance(int x1, int y1, int x2, int y2);
+// Hexes between two hexes over a path that never steps from one owner into a
+// different owner (neutral hexes are always entered), up to 5; 999 beyond.
+int OwnerDistance(int x1, int y1, int x2, int y2);
+
+// Pixel constants of the map picture.
+constexpr int kHexColumnW = 42;
+constexpr int kHexRowH = 30;
+constexpr int kHexPicW = 43;
+constexpr int kHexPicH = 41;
+constexpr int kViewSlackW = 958;   // the map window is the picture less these
+constexpr int kViewSlackH = 448;
+
+// Centre of a hex on the window, given the scroll positions.
+struct PixelXY {
+  int x = 0;
+  int y = 0;
+};
+PixelXY HexToPixel(int x, int y, int scrollX, int scrollY);
+// True when a hex whose centre lies at c is outside the drawn window.
+bool HexOffWindow(PixelXY c);
+// Hex under a point of the window (scroll positions added), or zeros.
+HexXY PixelToHex(int px, int py, int scrollX, int scrollY);
+// Size of the map picture for the current Game.MapW, Game.MapH.
+int MapPictureW();
+int MapPictureH();
+
+}  // namespace mf

@@ -1,0 +1,61 @@
+#include "platform/paths.h"
+
+#include <algorithm>
+#include <cctype>
+#include <filesystem>
+#include <system_error>
+
+namespace fs = std::filesystem;
+
+namespace mf {
+namespace {
+std::string& Dir() {
+  static std::string dir = ".";
+  return dir;
+}
+
+std::string Lower(std::string s) {
+  std::transform(s.begin(), s.end(), s.begin(), [](unsigned char c) { return std::tolower(c); });
+  return s;
+}
+}  // namespace
+
+void SetProgramDir(const std::string& dir) { Dir() = dir.empty() ? "." : dir; }
+const std::string& ProgramDir() { return Dir(); }
+
+std::string ResolveGamePath(const std::string& gamePath) {
+  std::string p = gamePath;
+  std::replace(p.begin(), p.end(), '\\', '/');
+  fs::path rel(p);
+  if (rel.is_absolute() && fs::exists(rel)) return rel.string();
+  // Game paths are relative to the program folder even with a leading slash.
+  while (!p.empty() && p.front() == '/') p.erase(p.begin());
+  fs::path exact = fs::path(Dir()) / p;
+  std::error_code ec;
+  if (fs::exists(exact, ec)) return exact.string();
+  // Walk part by part, matching names without regard to case.
+  fs::path cur = Dir();
+  for (const auto& part : fs::path(p)) {
+    fs::path next = cur / part;
+    if (!fs::exists(next, ec)) {
+      bool found = false;
+      if (fs::is_directory(cur, ec)) {
+        const std::string want = Lower(part.string());
+        for (const auto& entry : fs::directory_iterator(cur, ec)) {
+          if (Lower(entry.path().filename().string()) == want) {
+            next = entry.path();
+            found = true;
+            break;
+          }
+        }
+      }
+      if (!found) return exact.string();
+    }
+    cur = next;
+  }
+  return cur.string();
+}
+
+std::string ScenariosDir() { return ResolveGamePath("\\scenarios"); }
+
+}  // namespace mf
