@@ -1,11 +1,16 @@
-// marrowfield-cli: the headless program.
+// marrowfield-cli: the headless program. The game's own routines, driven
+// from the command line and from scripts, with every message box printed.
 #include <iostream>
 
+#include "platform/paths.h"
+#include "session.h"
+#include "subcommands.h"
+
 int main(int argc, char** argv) {
-  if (argc < 2) {
-    std::cerr << "usage: marrowfield-cli COMMAND ...\n";
-    return 1;
-  }
-  std::cerr << "unknown command: " << argv[1] << "\n";
-  return 1;
+  // The program folder is the one that holds the executable, so that the
+  // scenarios/ and default/ folders built next to it are found.
+  const std::string dir = mf::cli::ExecutableDir();
+  if (!dir.empty()) mf::SetProgramDir(dir);
+  const mf::cli::Args args(argv + 1, argv + argc);
+  return mf::cli::CliMain(args, std::cout, std::cerr);
 }

@@ -1,0 +1,275 @@
+#include "script_runner.h"
+
+#include <exception>
+#include <filesystem>
+#include <ostream>
+#include <random>
+#include <sstream>
+#include <vector>
+
+#include "files/field_registry.h"
+#include "files/scenario_file.h"
+#include "model/arith.h"
+#include "model/reset.h"
+#include "model/rnd.h"
+#include "platform/scripted_platform.h"
+#include "script_tokenizer.h"
+#include "session.h"
+
+namespace fs = std::filesystem;
+
+namespace mf::cli {
+namespace {
+
+using Words = std::vector<std::string>;
+
+// One run of a script: its platform, where it reads and writes files, and
+// how far expect-msg has consumed the printed messages.
+struct Run {
+  std::string name;
+  std::string baseDir;
+  std::ostream& out;
+  ScriptedPlatform platform;
+  std::size_t msgCursor = 0;
+  std::string tempDir;  // made on the first use of $TMP, removed at the end
+
+  Run(std::string n, std::string dir, std::ostream& o) : name(std::move(n)), baseDir(std::move(dir)), out(o) {}
+  ~Run() {
+    if (!tempDir.empty()) {
+      std::error_code ec;
+      fs::remove_all(tempDir, ec);
+    }
+  }
+
+  // A path of the script: "" stays "" (a cancelled file dialog), "$TMP/x" is
+  // x in this run's own scratch folder, a relative path is taken from the
+  // script's folder.
+  std::string Path(const std::string& p) {
+    if (p.empty()) return p;
+    if (p == "$TMP" || p.rfind("$TMP/", 0) == 0) {
+      if (tempDir.empty()) {
+        std::random_device rd;
+        tempDir = (fs::temp_directory_path() / ("mfscript_" + std::to_string(rd()) + std::to_string(rd()))).string();
+        fs::create_directories(tempDir);
+      }
+      return (fs::path(tempDir) / p.substr(p.size() > 4 ? 5 : 4)).lexically_normal().string();
+    }
+    const fs::path path(p);
+    if (path.is_absolute()) return p;
+    return (fs::path(baseDir) / path).lexically_normal().string();
+  }
+};
+
+using Handler = bool (*)(Run&, const Words& args, std::string* why);
+
+struct Command {
+  const char* name;
+  int minArgs;
+  int maxArgs;  // -1: any number
+  const char* usage;
+  Handler run;
+};
+
+bool IsWholeNumber(const std::string& s) {
+  if (s.empty() || s.size() > 10) return false;
+  for (char c : s)
+    if (c < '0' || c > '9') return false;
+  return true;
+}
+
+bool Seed(Run&, const Words& a, std::string* why) {
+  if (!IsWholeNumber(a[0]) || std::stoull(a[0]) > 0xFFFFFFFFull) {
+    *why = "seed: \"" + a[0] + "\" is not a whole number 0..4294967295";
+    return false;
+  }
+  SeedRnd(static_cast<std::uint32_t>(std::stoull(a[0])));
+  return true;
+}
+
+bool NewScenario(Run&, const Words& a, std::string*) {
+  MakeItSo(true, a[0], a[1]);
+  AfterClearCommand(true);
+  return true;
+}
+
+bool ClearMap(Run&, const Words& a, std::string*) {
+  MakeItSo(false, a[0], a[1]);
+  AfterClearCommand(false);
+  return true;
+}
+
+bool Load(Run& run, const Words& a, std::string*) {
+  run.platform.QueueFile(run.Path(a[0]));
+  LoadCommand();
+  return true;
+}
+
+bool Save(Run& run, const Words& a, std::string*) {
+  run.platform.QueueFile(run.Path(a[0]));
+  SaveCommand();
+  return true;
+}
+
+bool Import(Run& run, const Words& a, std::string*) {
+  run.platform.QueueFile(run.Path(a[0]));
+  ImportCommand();
+  return true;
+}
+
+bool Set(Run&, const Words& a, std::string* why) { return SetField(a[0], a[1], why); }
+
+bool Print(Run& run, const Words& a, std::string* why) {
+  std::string value;
+  if (!GetField(a[0], &value, why)) return false;
+  run.out << a[0] << " = " << value << "\n";
+  return true;
+}
+
+bool Expect(Run&, const Words& a, std::string* why) {
+  std::string value;
+  if (!GetField(a[0], &value, why)) return false;
+  if (value != a[1]) {
+    *why = "expect " + a[0] + ": expected \"" + a[1] + "\", got \"" + value + "\"";
+    return false;
+  }
+  return true;
+}
+
+bool ExpectMsg(Run& run, const Words& a, std::string* why) {
+  const auto& events = run.platform.Events();
+  for (std::size_t i = run.msgCursor; i < events.size(); ++i) {
+    const auto& e = events[i];
+    const bool box = e.kind == PlatformEvent::kMessage || e.kind == PlatformEvent::kQuestion ||
+                     e.kind == PlatformEvent::kPrompt;
+    if (box && e.text == a[0]) {
+      run.msgCursor = i + 1;
+      return true;
+    }
+  }
+  *why = "expect-msg: no message \"" + a[0] + "\" was shown";
+  return false;
+}
+
+bool Answer(Run& run, const Words& a, std::string*) {
+  for (const auto& answer : a) run.platform.QueueAnswer(answer);
+  return true;
+}
+
+bool On(Run& run, const Words& a, std::string*) {
+  std::vector<DialogAction> actions;
+  for (std::size_t i = 1; i < a.size(); ++i) {
+    const std::size_t eq = a[i].find('=');
+    if (eq == std::string::npos)
+      actions.push_back({a[i], ""});
+    else
+      actions.push_back({a[i].substr(0, eq), a[i].substr(eq + 1)});
+  }
+  run.platform.QueueDialog(a[0], std::move(actions));
+  return true;
+}
+
+// The script's commands. A command without a handler belongs to a part of the
+// game that is not built yet: it fails loudly, so that a script never passes
+// by skipping what it asked for.
+const Command kCommands[] = {
+    {"seed", 1, 1, "seed N", &Seed},
+    {"new", 2, 2, "new W H", &NewScenario},
+    {"clearmap", 2, 2, "clearmap W H", &ClearMap},
+    {"load", 1, 1, "load PATH", &Load},
+    {"save", 1, 1, "save PATH", &Save},
+    {"import", 1, 1, "import PATH", &Import},
+    {"set", 2, 2, "set FIELD VALUE", &Set},
+    {"print", 1, 1, "print FIELD", &Print},
+    {"expect", 2, 2, "expect FIELD VALUE", &Expect},
+    {"expect-msg", 1, 1, "expect-msg \"TEXT\"", &ExpectMsg},
+    {"answer", 1, -1, "answer A [A ...]", &Answer},
+    {"on", 1, -1, "on DIALOG ACTION ...", &On},
+    {"tick", 0, 1, "tick [N]", nullptr},
+    {"start", 0, -1, "start [key=value ...]", nullptr},
+    {"endturn", 0, 0, "endturn", nullptr},
+    {"surrender", 0, 0, "surrender", nullptr},
+    {"click", 2, 3, "click X Y [right]", nullptr},
+    {"press", 1, 1, "press NAME", nullptr},
+    {"key", 1, 1, "key NAME", nullptr},
+    {"panel", 1, 1, "panel SLOT", nullptr},
+};
+
+// Runs one command line; false with a reason when it failed.
+bool RunLine(Run& run, const std::string& line, std::string* why) {
+  Words words;
+  if (!TokenizeLine(line, &words, why)) return false;
+  if (words.empty()) return true;
+  const std::string cmd = words[0];
+  const Words args(words.begin() + 1, words.end());
+  for (const auto& c : kCommands) {
+    if (cmd != c.name) continue;
+    const int n = static_cast<int>(args.size());
+    if (n < c.minArgs || (c.maxArgs >= 0 && n > c.maxArgs)) {
+      *why = "usage: " + std::string(c.usage);
+      return false;
+    }
+    if (!c.run) {
+      *why = "not available yet: " + cmd;
+      return false;
+    }
+    run.platform.lastError.clear();
+    if (!c.run(run, args, why)) return false;
+    if (!run.platform.lastError.empty()) {
+      *why = run.platform.lastError;
+      return false;
+    }
+    return true;
+  }
+  *why = "unknown command: " + cmd;
+  return false;
+}
+
+// Puts the platform back to the built-in one however the run ends.
+struct PlatformGuard {
+  explicit PlatformGuard(Platform* p) { InstallPlatform(p); }
+  ~PlatformGuard() { InstallPlatform(nullptr); }
+};
+
+}  // namespace
+
+int RunScriptText(const std::string& text, const std::string& name, const std::string& baseDir,
+                  std::ostream& out, std::ostream& err) {
+  Run run(name, baseDir, out);
+  run.platform.printer = [&out](const PlatformEvent& e) { out << FormatEvent(e) << "\n"; };
+  PlatformGuard guard(&run.platform);
+  StartFresh();
+
+  std::istringstream lines(text);
+  std::string line;
+  int number = 0;
+  while (std::getline(lines, line)) {
+    ++number;
+    std::string why;
+    bool ok = false;
+    try {
+      ok = RunLine(run, line, &why);
+    } catch (const std::exception& e) {
+      why = std::string("internal error: ") + e.what();
+    }
+    if (!ok) {
+      out.flush();
+      err << name << ":" << number << ": " << why << "\n";
+      return 1;
+    }
+  }
+  out.flush();
+  return 0;
+}
+
+int RunScriptFile(const std::string& path, std::ostream& out, std::ostream& err) {
+  std::string text;
+  if (!ReadBytes(path, &text)) {
+    err << "cannot read script " << path << "\n";
+    return 1;
+  }
+  const fs::path p(path);
+  const std::string dir = p.has_parent_path() ? p.parent_path().string() : std::string(".");
+  return RunScriptText(text, path, dir, out, err);
+}
+
+}  // namespace mf::cli
