@@ -26,12 +26,20 @@ struct EngineVarLine {
   std::string text;
   int index = 0;
 };
-// Headings per category 1..15 and the rows with a description longer than one
-// character, value padded to width 5 and a blank before the description.
+// For each category 1..15 a heading "-------------------" + Str(category) +
+// "-------------------" (so "------------------- 1-------------------"),
+// then in index order the rows of that category whose description is longer
+// than one character: the value without a leading blank, left-aligned and
+// padded with blanks to width 5, one blank, the description ("0     AI
+// Forbidden. ..."). A value wider than five characters is followed by just
+// the one blank ("123456 Minimal ...").
 std::vector<EngineVarLine> EngineVarList();
-// Changes a row through the "Give New Value" prompt; false for heading lines
-// (index 0) and rows outside the table. The entered text is taken by Val and
-// truncated into a long; a cancelled (empty) prompt gives 0, as typed.
+// Changes a row through the "Give New Value" prompt (the row's description
+// as text, the present value without a leading blank as default); false, with
+// no prompt, for heading lines (index 0), rows outside 1..1000 and rows that no
+// list line shows (description of one character or none, such as row 234).
+// The entered text is taken by Val and truncated into a long; a cancelled
+// (empty) prompt gives 0, as typed.
 bool ChangeEngineVar(int index);
 
 }  // namespace mf

@@ -13,10 +13,14 @@ struct HexXY {
 // 0 by itself, so (0, 5) is possible: callers test both for > 0.
 HexXY Neighbour(int x, int y, int direction);
 // Walked number of hexes from the first hex to the second; 101 when the walk
-// has not arrived after 100 steps.
+// has not arrived after 100 steps. The walk always takes a shortest path, so
+// the result is the true hex distance and the same in both directions.
 int Distance(int x1, int y1, int x2, int y2);
-// Hexes between two hexes over a path that never steps from one owner into a
-// different owner (neutral hexes are always entered), up to 5; 999 beyond.
+// Hexes between two hexes over a path of at most 5 steps in which no step
+// enters an owned hex whose owner differs from the owner of the hex the step
+// comes from; neutral hexes are always entered. So a path may leave its
+// owner's ground for neutral ground but cannot come back onto owned ground
+// from there. 0 for equal hexes, 999 when there is no such path.
 int OwnerDistance(int x1, int y1, int x2, int y2);
 
 // Pixel constants of the map picture.
@@ -35,7 +39,9 @@ struct PixelXY {
 PixelXY HexToPixel(int x, int y, int scrollX, int scrollY);
 // True when a hex whose centre lies at c is outside the drawn window.
 bool HexOffWindow(PixelXY c);
-// Hex under a point of the window (scroll positions added), or zeros.
+// Hex under a point of the window (scroll positions added), or zeros: in the
+// zigzag bands at a row's upper and lower edge both are 0, and a coordinate
+// beyond the map (or below 0, for points left of or above the picture) is 0.
 HexXY PixelToHex(int px, int py, int scrollX, int scrollY);
 // Size of the map picture for the current Game.MapW, Game.MapH.
 int MapPictureW();

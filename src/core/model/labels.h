@@ -1,6 +1,7 @@
 // Fixed words of the game tables that the program shows.
 #pragma once
 
+#include <span>
 #include <string>
 
 namespace mf {
@@ -15,5 +16,13 @@ int LossClass(int typeClass, int theater);
 const std::string& ClassWord(int theater, int cls);
 // Label of an event field in the event editor, by field name ("TurnMin" -> "=> TURN").
 std::string EventFieldLabel(const std::string& field);
+
+// One event field and its label in the event editor; FiredTurn has none.
+struct EventFieldName {
+  const char* field;
+  const char* label;
+};
+// All event fields in file order, each with its editor label.
+std::span<const EventFieldName> EventFields();
 
 }  // namespace mf

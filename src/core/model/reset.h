@@ -10,9 +10,20 @@ namespace mf {
 void setup();
 
 // The clearing of the Clear / New Game dialog's "Make it so". With
-// resetRules false the engine variables, types, peoples and research stay;
+// resetRules false the engine variables (except row 616, the SHQ stock width,
+// which goes to 0 with the SHQ tables), types, peoples and research stay;
 // with true they go back to their defaults too. Width and height are the
-// two fields' texts, taken by Val and clamped to 10..100.
+// two fields' texts, taken by Val, rounded by CInt and held to 10..100.
+//
+// Hexes inside the old map are cleared; hexes beyond it keep their data but
+// every hex of the new map gets Land 1. Events and book variables 1..200 are
+// cleared and Game.BookVarCount is set to 200. The UI selections (also the
+// previous selection and the order origin), all order flags, the attackers,
+// UI.EditMode, UI.ResumeTurn and UI.ExitAfterTurnForm are zeroed; the
+// overlay switches, UI.SoundOff, UI.HideEditor, UI.PendingFile (the
+// campaign's next file, read by the timer around a clear) and the window's
+// own fields stay. Of the game switches FogOfWar, FogOfExploration,
+// UsePasswords, PBEM and AIProdBonus are zeroed; Game.FileVersion stays.
 void MakeItSo(bool resetRules, const std::string& widthText, const std::string& heightText);
 // The silent full clear used before every load: both fields "0".
 void onlyclear();
