@@ -15,7 +15,9 @@ bool Transform(const std::string& path);
 // lines, Windows-1252 text. Raises engine variable 616 to Game.TypeCount first.
 std::string SerializeScenario();
 // Reads plain file text into the tables as a load does (no clearing, no
-// messages, no repairs). Returns the file version read.
+// messages, no engine-variable repairs; the reader's own field checks and
+// repairs apply). Returns the file version read; a version above 111 stops
+// the reading after the head's first fields.
 long ParseScenario(const std::string& plain);
 
 // Writes the current game to path, scrambled, through a temporary file.

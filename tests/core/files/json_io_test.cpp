@@ -1,0 +1,152 @@
+// The JSON form of a scenario: every field once, by name, in file order;
+// JSON to tables to file gives the bytes of the file it came from.
+#include <string>
+
+#include "files/json_io.h"
+#include "files/scenario_file.h"
+#include "files_test_util.h"
+#include "model/game_state.h"
+#include "model/reset.h"
+#include "support/core_test.h"
+
+namespace mf::test {
+namespace {
+
+class JsonIo : public CoreTest {};
+
+std::size_t Count(const std::string& text, const std::string& what) {
+  std::size_t n = 0;
+  for (std::size_t p = text.find(what); p != std::string::npos; p = text.find(what, p + 1)) ++n;
+  return n;
+}
+
+TEST_F(JsonIo, ExportIsAnObjectOfFieldsInFileOrder) {
+  BuildRichScenario();
+  const std::string json = ExportJson();
+  EXPECT_EQ(json.rfind("{\n  \"format\": \"marrowfield-scenario\",\n  \"fileVersion\": 111,\n  \"fields\": {\n", 0),
+            0u);
+  EXPECT_NE(json.find("\n    \"Game.FileVersion\": 111,\n    \"Game.FogOfWar\": 1,\n"), std::string::npos);
+  EXPECT_NE(json.find("\"Game.ShowAIMoves\": true,\n    \"Game.AIAnalysis\": false,"), std::string::npos);
+  EXPECT_NE(json.find("\"Game.ScenarioStory\": \"The rivers rise.\\r\\nTwo armies wait.\\r\\n\\r\\nWho crosses first?\""),
+            std::string::npos);
+  EXPECT_NE(json.find("\"People[1].Name\": \"Zoë Brontë\""), std::string::npos);
+  EXPECT_NE(json.find("\"Regime[2].PP\": -5,"), std::string::npos);
+  EXPECT_NE(json.find("\"Hex[2,3].UrbanName\": \"Ærøskøbing\""), std::string::npos);
+  EXPECT_NE(json.find("\"Event[2].DataText[1]\": \"scenarios\\\\part2.mf2\""), std::string::npos);
+  EXPECT_NE(json.find("\"EngineVar[1000]\": 0\n  }\n}\n"), std::string::npos);
+  // Each name once, also for the fields the file holds twice.
+  EXPECT_EQ(Count(json, "\"Hex[2,3].Seen[1]\""), 1u);
+  EXPECT_EQ(Count(json, "\"Game.RegimeCount\""), 1u);
+  EXPECT_EQ(Count(json, "\"Game.PeopleCount\""), 1u);
+  EXPECT_EQ(Count(json, "\"EngineVar[616]\""), 1u);
+  // File order.
+  const char* order[] = {"\"Game.FileVersion\"", "\"Game.AIProdBonus\"", "\"Event[1].TurnMin\"",
+                         "\"Game.BookVar[1]\"", "\"Hex[1,1].Pop\"", "\"Hex[20,15].Damage\"",
+                         "\"People[1].Name\"", "\"Officer[1].Pic\"", "\"EngineVar[616]\"",
+                         "\"Dip[1,1].Relation\"", "\"Regime[1].Name\"", "\"News[3,1000].Mark\"",
+                         "\"Regime[3].Intro\"", "\"Game.UnitCount\"", "\"Unit[6].GenSupply\"",
+                         "\"Research[200].Text\"", "\"Type[4].Override\"", "\"EngineVar[1]\""};
+  std::size_t last = 0;
+  for (const char* name : order) {
+    const std::size_t at = json.find(name);
+    ASSERT_NE(at, std::string::npos) << name;
+    EXPECT_GT(at, last) << name;
+    last = at;
+  }
+}
+
+TEST_F(JsonIo, FileToJsonToFileIsLossless) {
+  BuildRichScenario();
+  const std::string path = TempPath("rich.mf1");
+  ASSERT_TRUE(WriteFile(path));
+  onlyclear();
+  ASSERT_TRUE(ReadFile(path));
+  const std::string loaded = SerializeScenario();
+  const std::string json = ExportJson();
+  onlyclear();
+  std::string why;
+  ASSERT_TRUE(ImportJson(json, &why)) << why;
+  EXPECT_EQ(SerializeScenario(), loaded);
+  EXPECT_EQ(People[2].Name, "?ód?");
+  EXPECT_EQ(Event[1].Story, "Reinforcements arrive.\r\nThey are tired.");
+  EXPECT_EQ(Game.ShowAIMoves, kTrue);
+  // And the JSON of the imported tables is the JSON it came from.
+  EXPECT_EQ(ExportJson(), json);
+}
+
+TEST_F(JsonIo, ExportDoesNotChangeTheTables) {
+  world::NewMap(10, 10);
+  Game.FileVersion = 100;
+  EngineVar[616].Value = 2;
+  for (int t = 1; t <= 5; ++t) world::AddType("T", kLandTheater, 1);
+  const std::string json = ExportJson();
+  EXPECT_EQ(Game.FileVersion, 100);
+  EXPECT_EQ(EngineVar[616].Value, 2);
+  // It shows what a save writes: the current version and the raised width.
+  EXPECT_NE(json.find("\"Game.FileVersion\": 111,"), std::string::npos);
+  EXPECT_NE(json.find("\"EngineVar[616]\": 5,"), std::string::npos);
+  EXPECT_EQ(Count(json, "\"Shq[1,50].StockType[5]\""), 0u);  // no regimes, no stocks
+}
+
+TEST_F(JsonIo, MissingNamesReadAsZeroOrEmpty) {
+  BuildRichScenario();
+  const std::string json = R"({"format": "marrowfield-scenario", "fields": {
+      "Game.MapW": 12, "Game.MapH": 11, "Game.RegimeCount": 1,
+      "Regime[1].Name": "Solo", "Dip[1,1].Cost": 0, "Hex[3,3].Land": 4,
+      "Game.ShowAIMoves": true, "Game.UnitCount": 1, "Unit[1].Name": "Lone", "Unit[1].Regime": 1,
+      "Unit[1].Readiness": 55.5, "Unit[1].MP": "7", "Game.TypeCount": 1, "Type[1].Name": "Foot", "Type[1].Class": 1}})";
+  std::string why;
+  ASSERT_TRUE(ImportJson(json, &why)) << why;
+  EXPECT_EQ(Game.FileVersion, 111);  // no version given: the current layout
+  EXPECT_EQ(Game.FogOfWar, 0);       // was 1
+  EXPECT_EQ(Game.Turn, 0);           // was 3
+  EXPECT_EQ(Game.MapW, 12);
+  EXPECT_EQ(Game.MapH, 11);
+  EXPECT_EQ(Hex[3][3].Land, 4);
+  EXPECT_EQ(Hex[1][1].Land, 0);
+  EXPECT_EQ(Game.DirMap, "");
+  EXPECT_EQ(Game.ShowAIMoves, kTrue);
+  EXPECT_EQ(Game.RegimeCount, 1);
+  EXPECT_EQ(Regime[1].Name, "Solo");
+  EXPECT_EQ(Regime[1].PP, 0);
+  EXPECT_EQ(Dip[1][1].Cost, 999);  // a 0 cost reads as 999, as from a file
+  EXPECT_EQ(Game.UnitCount, 1);
+  EXPECT_EQ(Unit[1].Name, "Lone");
+  EXPECT_EQ(Unit[1].Readiness, 56);  // halves to even
+  EXPECT_EQ(Unit[1].MP, 7);
+  EXPECT_EQ(Unit[1].Shq, 0);
+  EXPECT_EQ(Type[1].Name, "Foot");
+  EXPECT_EQ(Type[1].Attr[kFrontsize], 1);  // the frontsize repair of a reader
+  EXPECT_EQ(Game.PeopleCount, 0);
+  EXPECT_EQ(EngineVar[533].Value, 0);
+}
+
+TEST_F(JsonIo, ImportJsonRefusesWhatIsNotAScenario) {
+  std::string why;
+  EXPECT_FALSE(ImportJson("{ not json", &why));
+  EXPECT_EQ(why, "not valid JSON");
+  EXPECT_FALSE(ImportJson("[1, 2]", &why));
+  EXPECT_EQ(why, "not a JSON object");
+  EXPECT_FALSE(ImportJson(R"({"format": "something else", "fields": {}})", &why));
+  EXPECT_EQ(why, "\"format\" is not \"marrowfield-scenario\"");
+  EXPECT_FALSE(ImportJson(R"({"format": "marrowfield-scenario"})", &why));
+  EXPECT_EQ(why, "no \"fields\" object");
+  EXPECT_FALSE(ImportJson(R"({"format": "marrowfield-scenario", "fields": []})", &why));
+  EXPECT_EQ(why, "no \"fields\" object");
+}
+
+TEST_F(JsonIo, OutOfRangeValuesAreCheckedAsInAFile) {
+  const std::string json = R"({"format": "marrowfield-scenario", "fields": {
+      "Game.MapW": 5000, "Game.MapH": 10, "Game.UnitCount": 99999, "Hex[1,1].Unit[1]": 7000,
+      "Hex[1,2].Unit[1]": 1e12, "Game.TypeCount": -3}})";
+  std::string why;
+  ASSERT_TRUE(ImportJson(json, &why)) << why;
+  EXPECT_EQ(Game.MapW, 100);
+  EXPECT_EQ(Game.UnitCount, 2000);
+  EXPECT_EQ(Hex[1][1].Unit[1], 0);
+  EXPECT_EQ(Hex[1][2].Unit[1], 0);
+  EXPECT_EQ(Game.TypeCount, 0);
+}
+
+}  // namespace
+}  // namespace mf::test

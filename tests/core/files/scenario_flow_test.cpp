@@ -1,0 +1,546 @@
+// The flows around the file: scrambling, save, load, import, the campaign
+// rules and the menu scenarios, with their messages.
+#include <filesystem>
+#include <fstream>
+#include <string>
+
+#include "files/scenario_file.h"
+#include "files_test_util.h"
+#include "model/game_state.h"
+#include "model/reset.h"
+#include "platform/paths.h"
+#include "support/core_test.h"
+
+namespace fs = std::filesystem;
+
+namespace mf::test {
+namespace {
+
+// The scripted platform, also noting the filter and folder of file dialogs.
+class DialogNotingPlatform : public ScriptedPlatform {
+ public:
+  std::string OpenFileDialog(const std::string& title, const std::string& filter,
+                             const std::string& startDir) override {
+    lastFilter = filter;
+    lastDir = startDir;
+    return ScriptedPlatform::OpenFileDialog(title, filter, startDir);
+  }
+  std::string SaveFileDialog(const std::string& title, const std::string& filter,
+                             const std::string& startDir) override {
+    lastFilter = filter;
+    lastDir = startDir;
+    return ScriptedPlatform::SaveFileDialog(title, filter, startDir);
+  }
+  std::string lastFilter;
+  std::string lastDir;
+};
+
+class ScenarioFlow : public CoreTest {
+ protected:
+  void SetUp() override {
+    CoreTest::SetUp();
+    InstallPlatform(&dialogs);
+  }
+  std::vector<std::string> Shown() const { return dialogs.Messages(); }
+  std::string LastTitle() const {
+    for (auto it = dialogs.Events().rbegin(); it != dialogs.Events().rend(); ++it) {
+      if (it->kind == PlatformEvent::kMessage) return it->title;
+    }
+    return "";
+  }
+  // A small scenario saved (scrambled) to a file; returns its path.
+  std::string SavedScenario(const std::string& name, int turn = 0) {
+    world::NewMap(12, 10);
+    Game.BookVarCount = 200;
+    world::AddRegime("Red");
+    world::AddRegime("Blue");
+    const int t = world::AddType("Rifles", kLandTheater, 1);
+    Type[t].Attr[kFrontsize] = 1;
+    world::AddUnit(1, 2, 2, "1st Rifles", t, 10);
+    world::AddUnit(2, 8, 8, "2nd Rifles", t, 12);
+    Hex[2][2].UrbanName = "Redtown";
+    Game.Turn = turn;
+    Game.CurRegime = turn > 0 ? 2 : 0;
+    const std::string path = TempPath(name);
+    EXPECT_TRUE(WriteFile(path));
+    return path;
+  }
+
+  DialogNotingPlatform dialogs;
+};
+
+TEST_F(ScenarioFlow, TransformOfAMissingFile) {
+  EXPECT_FALSE(Transform(TempPath("missing.mf1")));
+  EXPECT_EQ(Shown(), std::vector<std::string>{"Cancelled, error in encryption. argh."});
+  EXPECT_EQ(LastTitle(), "Marrowfield");
+}
+
+TEST_F(ScenarioFlow, TransformFlipsTheTopBitOfEveryByteAndIsItsOwnInverse) {
+  const std::string path = TempPath("bytes.bin");
+  const std::string original("\x00\x41\x7F\x80\xC1\xFF\r\n", 8);
+  WriteBytes(path, original);
+  ASSERT_TRUE(Transform(path));
+  EXPECT_EQ(ReadBytes(path), std::string("\x80\xC1\xFF\x00\x41\x7F\x8D\x8A", 8));
+  ASSERT_TRUE(Transform(path));
+  EXPECT_EQ(ReadBytes(path), original);
+  EXPECT_TRUE(Shown().empty());
+}
+
+TEST_F(ScenarioFlow, SaveCommandSavesScrambledWithItsMessages) {
+  world::NewMap(10, 10);
+  UI.HideEditor = true;
+  const std::string path = TempPath("saved.mf1");
+  dialogs.QueueFile(path);
+  SaveCommand();
+  EXPECT_EQ(Shown(), std::vector<std::string>{"Saved"});
+  EXPECT_EQ(LastTitle(), "File I/O");
+  EXPECT_EQ(dialogs.lastFilter, "Marrowfield (.mf1) files|*.mf1");
+  EXPECT_EQ(dialogs.lastDir, ScenariosDir());
+  EXPECT_EQ(Flipped(ReadBytes(path)), SerializeScenario());
+  EXPECT_FALSE(fs::exists(path + ".tmp"));
+
+  // With the editor panel showing, the hidden campaign files are offered too.
+  UI.HideEditor = false;
+  dialogs.QueueFile(TempPath("campaign.mf2"));
+  SaveCommand();
+  EXPECT_EQ(dialogs.lastFilter, "Marrowfield (.mf1) files|*.mf1|Hidden Campaign Files|*.mf2");
+  EXPECT_TRUE(fs::exists(TempPath("campaign.mf2")));
+}
+
+TEST_F(ScenarioFlow, SaveCommandCancelledOrFailing) {
+  world::NewMap(10, 10);
+  SaveCommand();  // nothing queued: the dialog is cancelled
+  EXPECT_EQ(Shown(), std::vector<std::string>{"Save canceled"});
+  EXPECT_EQ(LastTitle(), "File I/O");
+  dialogs.QueueFile(TempPath("no/such/folder/x.mf1"));
+  SaveCommand();
+  EXPECT_EQ(Shown(), (std::vector<std::string>{"Save canceled", "Save canceled"}));
+  EXPECT_EQ(LastTitle(), "File I/O");
+}
+
+TEST_F(ScenarioFlow, InterruptedSaveLeavesTheOldFileIntact) {
+  const std::string path = SavedScenario("keep.mf1");
+  const std::string old = ReadBytes(path);
+  Regime[1].Name = "Changed";
+
+  // The temporary file cannot be made: something else holds its name.
+  fs::create_directories(path + ".tmp/inner");
+  EXPECT_FALSE(WriteFile(path));
+  EXPECT_EQ(ReadBytes(path), old);
+  dialogs.QueueFile(path);
+  SaveCommand();
+  EXPECT_EQ(Shown().back(), "Save canceled");
+  EXPECT_EQ(ReadBytes(path), old);
+  fs::remove_all(path + ".tmp");
+
+  // The rename cannot replace the target: a folder with files stands there.
+  const std::string folder = TempPath("folder.mf1");
+  fs::create_directories(folder + "/inside");
+  WriteBytes(folder + "/inside/old.txt", "old");
+  EXPECT_FALSE(WriteFile(folder));
+  EXPECT_EQ(ReadBytes(folder + "/inside/old.txt"), "old");
+  EXPECT_FALSE(fs::exists(folder + ".tmp"));  // the temporary file is cleaned up
+}
+
+TEST_F(ScenarioFlow, SaveIntoAFolderWithoutWritePermission) {
+  const std::string path = SavedScenario("keep.mf1");
+  const std::string old = ReadBytes(path);
+  Regime[1].Name = "Changed";
+  // Not a barrier for root, for whom this test is skipped.
+  const std::string locked = TempPath("locked");
+  fs::create_directories(locked);
+  const std::string lockedFile = locked + "/game.mf1";
+  WriteBytes(lockedFile, old);
+  fs::permissions(locked, fs::perms::owner_read | fs::perms::owner_exec);
+  {
+    std::ofstream probe(locked + "/probe");
+    if (probe) {
+      probe.close();
+      fs::permissions(locked, fs::perms::owner_all);
+      GTEST_SKIP() << "running with rights that ignore folder permissions";
+    }
+  }
+  EXPECT_FALSE(WriteFile(lockedFile));
+  EXPECT_EQ(ReadBytes(lockedFile), old);
+  fs::permissions(locked, fs::perms::owner_all);
+}
+
+TEST_F(ScenarioFlow, ReadFileOfNoPathOrAMissingFile) {
+  EXPECT_FALSE(ReadFile(""));
+  EXPECT_FALSE(ReadFile(TempPath("nothing.mf1")));
+  EXPECT_EQ(Shown(), (std::vector<std::string>{"Aborted", "File does not exist"}));
+}
+
+TEST_F(ScenarioFlow, PlainFileIsReadAndLeavesTheDiskScrambled) {
+  SavedScenario("x.mf1");
+  const std::string plain = SerializeScenario();
+  const std::string path = TempPath("plain.mf1");
+  WriteBytes(path, plain);
+  onlyclear();
+  dialogs.Clear();
+  UI.EditMode = 1;
+  ASSERT_TRUE(ReadFile(path));
+  EXPECT_EQ(Shown(), std::vector<std::string>{"Loaded"});
+  EXPECT_EQ(UI.EditMode, 0);
+  EXPECT_EQ(Unit[1].Name, "1st Rifles");
+  EXPECT_EQ(ReadBytes(path), Flipped(plain));
+}
+
+TEST_F(ScenarioFlow, ScrambledFileFirstReadsAsZero) {
+  SavedScenario("x.mf1");
+  const std::string scrambled = Flipped(SerializeScenario());
+  onlyclear();
+  EXPECT_EQ(ParseScenario(scrambled), 0);
+  EXPECT_EQ(Game.FileVersion, 0);
+  EXPECT_EQ(Game.MapW, 0);
+  EXPECT_EQ(Game.RegimeCount, 0);
+}
+
+TEST_F(ScenarioFlow, PlainFileStartingWithZeroIsMistakenForAScrambledOne) {
+  SavedScenario("x.mf1");
+  auto lines = SplitLines(SerializeScenario());
+  lines[0] = " 0 ";
+  const std::string plain = JoinLines(lines);
+  const std::string path = TempPath("zero.mf1");
+  WriteBytes(path, plain);
+  onlyclear();
+  dialogs.Clear();
+  // It is transformed, read as scrambled bytes (which form no fields), and
+  // transformed back: the load goes through with nothing read.
+  EXPECT_TRUE(ReadFile(path));
+  EXPECT_EQ(Shown(), std::vector<std::string>{"Loaded"});
+  EXPECT_EQ(Game.FileVersion, 0);
+  EXPECT_EQ(Game.MapW, 0);
+  EXPECT_EQ(Game.RegimeCount, 0);
+  EXPECT_EQ(Game.UnitCount, 0);
+  EXPECT_EQ(Regime[1].Name, "");
+  EXPECT_EQ(EngineVar[544].Value, 50);  // the repairs still apply to the zeros read
+  EXPECT_EQ(ReadBytes(path), plain);
+}
+
+TEST_F(ScenarioFlow, NewerVersionIsRefusedAndTheFileLeftPlain) {
+  SavedScenario("x.mf1");
+  auto lines = SplitLines(SerializeScenario());
+  lines[0] = " 112 ";
+  lines[1] = " 1 ";
+  const std::string plain = JoinLines(lines);
+  const std::vector<std::string> refusal = {
+      "Please, you have to get a newer version of Marrowfield on the internet: "
+      "https://marrowfield.example.org/download",
+      "Aborted."};
+
+  const std::string plainPath = TempPath("newer.mf1");
+  WriteBytes(plainPath, plain);
+  onlyclear();
+  dialogs.Clear();
+  EXPECT_FALSE(ReadFile(plainPath));
+  EXPECT_EQ(Shown(), refusal);
+  EXPECT_EQ(ReadBytes(plainPath), plain);
+  EXPECT_EQ(Game.FileVersion, 112);
+  EXPECT_EQ(Game.FogOfWar, 1);
+  EXPECT_EQ(Game.RegimeCount, 0);  // nothing after the head's first fields
+
+  // A scrambled newer file is unscrambled for reading and stays so.
+  const std::string scrambledPath = TempPath("newer2.mf1");
+  WriteBytes(scrambledPath, Flipped(plain));
+  dialogs.Clear();
+  EXPECT_FALSE(ReadFile(scrambledPath));
+  EXPECT_EQ(Shown(), refusal);
+  EXPECT_EQ(ReadBytes(scrambledPath), plain);
+}
+
+TEST_F(ScenarioFlow, CampaignFileLoadsSilentlyAndRepairsApply) {
+  SavedScenario("x.mf1");
+  EngineVar[704].Value = 1;
+  EngineVar[544].Value = 0;
+  EngineVar[123].Value = 0;
+  EngineVar[235].Value = 0;
+  EngineVar[538].Value = 50;
+  const std::string path = TempPath("campaign.mf2");
+  ASSERT_TRUE(WriteFile(path));
+  onlyclear();
+  dialogs.Clear();
+  ASSERT_TRUE(ReadFile(path));
+  EXPECT_TRUE(Shown().empty());
+  EXPECT_EQ(EngineVar[544].Value, 50);
+  EXPECT_EQ(EngineVar[123].Value, 30);   // not its start default of 40
+  EXPECT_EQ(EngineVar[235].Value, 4000);
+  EXPECT_EQ(EngineVar[538].Value, 50);   // a version-111 file is not doubled
+}
+
+TEST_F(ScenarioFlow, DoGoLoadOfAMapToEdit) {
+  const std::string path = SavedScenario("edit.mf1");
+  // Left-overs of an earlier game that the file does not hold are cleared.
+  Game.UnitCount = 60;
+  Unit[50].Regime = 1;
+  Unit[50].Name = "Ghost";
+  UI.SelX = 7;
+  UI.SelY = 8;
+  dialogs.Clear();
+  ASSERT_TRUE(doGoLoad(path));
+  EXPECT_EQ(Shown(), std::vector<std::string>{"Loaded"});
+  EXPECT_EQ(Game.UnitCount, 2);
+  EXPECT_EQ(Unit[50].Regime, 0);
+  EXPECT_EQ(Unit[50].Name, "");
+  EXPECT_EQ(Game.MapW, 12);
+  EXPECT_EQ(UI.EditMode, 1);
+  EXPECT_EQ(UI.HelpText, "You have loaded a game. You can now edit it or select start in the menu.");
+  EXPECT_EQ(UI.SelX, 1);
+  EXPECT_EQ(UI.SelY, 1);
+  EXPECT_FALSE(UI.ResumeTurn);
+  EXPECT_EQ(UI.PictureW, 12 * 42 + 70);  // setup sized the map picture for the file
+}
+
+TEST_F(ScenarioFlow, DoGoLoadOfASavedGame) {
+  const std::string path = SavedScenario("game.mf1", 3);
+  onlyclear();
+  ASSERT_TRUE(doGoLoad(path));
+  EXPECT_EQ(UI.EditMode, 0);
+  EXPECT_EQ(UI.HelpText, "Welcome back to your game.");
+  EXPECT_EQ(UI.RegimeLabel, "Blue");
+  EXPECT_EQ(UI.TurnLabel, "3");
+  EXPECT_FALSE(UI.ResumeTurn);  // not a PBEM game: no driver
+  EXPECT_EQ(Game.CurRegime, 2);
+  EXPECT_EQ(Game.Turn, 3);
+  EXPECT_EQ(UI.SelX, 1);
+  EXPECT_EQ(UI.SelY, 1);
+}
+
+TEST_F(ScenarioFlow, DoGoLoadOfAPbemGameResumesTheSavedRegime) {
+  SavedScenario("x.mf1", 3);
+  Game.PBEM = 1;
+  Regime[1].Email = "red@example.org";
+  Regime[2].Email = "blue@example.org";
+  const std::string path = TempPath("pbem.mf1");
+  ASSERT_TRUE(WriteFile(path));
+  onlyclear();
+  ASSERT_TRUE(doGoLoad(path));
+  // The driver resumes the regime of the file instead of advancing.
+  EXPECT_EQ(Game.Turn, 3);
+  EXPECT_EQ(Game.CurRegime, 2);
+  EXPECT_EQ(Game.PBEM, 1);
+  EXPECT_EQ(UI.SelX, 1);
+  EXPECT_EQ(UI.SelY, 1);
+}
+
+TEST_F(ScenarioFlow, DoGoLoadStopsWhenTheReadFails) {
+  world::NewMap(30, 30);
+  EXPECT_FALSE(doGoLoad(TempPath("gone.mf1")));
+  EXPECT_EQ(Shown(), std::vector<std::string>{"File does not exist"});
+  EXPECT_EQ(Game.MapW, 10);  // the clear before the read has happened
+}
+
+TEST_F(ScenarioFlow, LoadCommandCancelled) {
+  UI.HideEditor = true;
+  LoadCommand();
+  EXPECT_EQ(Shown(), std::vector<std::string>{"Load canceled"});
+  EXPECT_EQ(dialogs.lastFilter, "Marrowfield (.mf1) files|*.mf1");
+  EXPECT_EQ(dialogs.lastDir, ScenariosDir());
+}
+
+TEST_F(ScenarioFlow, CampaignFileThatOnlyACampaignMayLoadIsRefused) {
+  SavedScenario("x.mf1");
+  EngineVar[704].Value = 1;
+  EngineVar[706].Value = 1;
+  const std::string path = TempPath("chapter2.mf2");
+  ASSERT_TRUE(WriteFile(path));
+  onlyclear();
+  dialogs.Clear();
+  UI.HideEditor = true;
+  dialogs.QueueFile(path);
+  LoadCommand();
+  EXPECT_EQ(Shown(), std::vector<std::string>{"You are not allowed to load this file."});
+  // The map is cleared with the rules.
+  EXPECT_EQ(Game.UnitCount, 0);
+  EXPECT_EQ(Unit[1].Regime, 0);
+  EXPECT_EQ(Game.RegimeCount, 0);
+  EXPECT_EQ(Regime[1].Name, "");
+  EXPECT_EQ(Game.MapW, 10);
+  EXPECT_EQ(Game.MapH, 10);
+  EXPECT_EQ(EngineVar[704].Value, 0);
+  EXPECT_EQ(EngineVar[706].Value, 0);
+  EXPECT_EQ(Game.TypeCount, 0);
+}
+
+TEST_F(ScenarioFlow, CampaignFileWithTheEditorPanelShowingLoadsAsAMap) {
+  SavedScenario("x.mf1");
+  EngineVar[704].Value = 1;
+  EngineVar[706].Value = 1;
+  const std::string path = TempPath("chapter2.mf2");
+  ASSERT_TRUE(WriteFile(path));
+  onlyclear();
+  dialogs.Clear();
+  UI.HideEditor = false;
+  dialogs.QueueFile(path);
+  LoadCommand();
+  EXPECT_TRUE(Shown().empty());  // a campaign file loads silently and is not refused
+  EXPECT_EQ(Game.UnitCount, 2);
+  EXPECT_EQ(Regime[1].Name, "Red");
+  EXPECT_EQ(Regime[2].AI, 0);
+  EXPECT_EQ(Game.MapW, 12);
+  EXPECT_EQ(UI.EditMode, 1);
+  EXPECT_EQ(Game.FogOfWar, 0);
+}
+
+TEST_F(ScenarioFlow, FirstCampaignFileStartsTheCampaignAtOnce) {
+  SavedScenario("x.mf1");
+  world::AddRegime("Green");
+  EngineVar[704].Value = 1;
+  EngineVar[705].Value = 1;
+  EngineVar[706].Value = 0;
+  const std::string path = TempPath("chapter1.mf2");
+  ASSERT_TRUE(WriteFile(path));
+  onlyclear();
+  UI.HideEditor = true;
+  dialogs.QueueFile(path);
+  LoadCommand();
+  EXPECT_EQ(Regime[1].AI, 0);
+  EXPECT_EQ(Regime[2].AI, 1);
+  EXPECT_EQ(Regime[3].AI, 1);
+  EXPECT_EQ(Regime[4].AI, 0);  // no regime 4 in this game
+  EXPECT_EQ(Game.FogOfWar, 1);
+  EXPECT_EQ(Game.FogOfExploration, 1);
+  EXPECT_EQ(UI.EditMode, 0);
+  EXPECT_FALSE(UI.ShowEditorPanel);
+}
+
+TEST_F(ScenarioFlow, CampaignWithoutFogOfExploration) {
+  SavedScenario("x.mf1");
+  Game.FogOfExploration = 1;
+  EngineVar[704].Value = 1;
+  EngineVar[705].Value = 0;
+  const std::string path = TempPath("chapter1.mf2");
+  ASSERT_TRUE(WriteFile(path));
+  onlyclear();
+  UI.HideEditor = true;
+  dialogs.QueueFile(path);
+  LoadCommand();
+  EXPECT_EQ(Game.FogOfExploration, 0);
+  EXPECT_EQ(Game.FogOfWar, 1);
+}
+
+TEST_F(ScenarioFlow, ImportIntoARunningGameKeepsUnitsAndMap) {
+  // The rule set to import: other types, peoples, research, folders, rules.
+  world::NewMap(10, 10);
+  Game.BookVarCount = 200;
+  world::AddRegime("Other");
+  Game.DirMap = "\\desert\\map";
+  Game.DirOfficer = "\\desert\\officer";
+  Game.GraphicsDirty = 1;
+  Game.Turn = 9;
+  Game.PeopleCount = 1;
+  People[1].Name = "Nomads";
+  People[1].FirstName[1] = "Ali";
+  const int camel = world::AddType("Camel Corps", kLandTheater, 2);
+  Type[camel].Attr[kMovementCap] = 9;
+  Type[camel].Living[1] = 1;
+  const int old = world::AddType("Old Rifles", kLandTheater, 1);  // frontsize 0: repaired
+  Research[5].Name = "Water";
+  Research[5].Text = "Wells.\r\nOases.";
+  EngineVar[533].Value = 7;
+  EngineVar[235].Value = 0;
+  const std::string path = TempPath("rules.mf1");
+  ASSERT_TRUE(WriteFile(path));
+  const std::string scrambled = ReadBytes(path);
+
+  // The running game.
+  onlyclear();
+  world::NewMap(15, 12);
+  world::AddRegime("Red");
+  world::AddRegime("Blue");
+  for (int t = 1; t <= 3; ++t) world::AddType("Mine " + std::to_string(t), kLandTheater, 1);
+  const int u = world::AddUnit(1, 4, 4, "Guards", 3, 10);
+  Hex[4][4].UrbanName = "Capital";
+  Hex[4][4].Pop = 4000;
+  Game.Turn = 5;
+  Game.CurRegime = 1;
+  Regime[1].PP = 33;
+  EngineVar[704].Value = 0;
+  dialogs.Clear();
+
+  ASSERT_TRUE(ImportFile(path));
+  EXPECT_TRUE(Shown().empty());
+  // Kept from the running game.
+  EXPECT_EQ(Game.Turn, 5);
+  EXPECT_EQ(Game.CurRegime, 1);
+  EXPECT_EQ(Game.MapW, 15);
+  EXPECT_EQ(Game.MapH, 12);
+  EXPECT_EQ(Game.RegimeCount, 2);
+  EXPECT_EQ(Regime[1].Name, "Red");
+  EXPECT_EQ(Regime[1].PP, 33);
+  EXPECT_EQ(Game.UnitCount, 1);
+  EXPECT_EQ(Unit[u].Name, "Guards");
+  EXPECT_EQ(Unit[u].InfType, 3);  // type 3 is gone under it, and that is allowed
+  EXPECT_EQ(Hex[4][4].Unit[1], u);
+  EXPECT_EQ(Hex[4][4].UrbanName, "Capital");
+  EXPECT_EQ(Hex[4][4].Pop, 4000);
+  // Taken from the file.
+  EXPECT_EQ(Game.DirMap, "\\desert\\map");
+  EXPECT_EQ(Game.DirOfficer, "\\desert\\officer");
+  EXPECT_EQ(Game.GraphicsDirty, 1);
+  EXPECT_EQ(Game.PeopleCount, 1);
+  EXPECT_EQ(People[1].Name, "Nomads");
+  EXPECT_EQ(People[1].FirstName[1], "Ali");
+  EXPECT_EQ(Game.TypeCount, 2);
+  EXPECT_EQ(Type[1].Name, "Camel Corps");
+  EXPECT_EQ(Type[1].Attr[kMovementCap], 9);
+  EXPECT_EQ(Type[1].Living[1], 1);
+  EXPECT_EQ(Type[old].Attr[kFrontsize], 1);
+  EXPECT_EQ(Type[3].Name, "Mine 3");  // beyond the new count, left as it was
+  EXPECT_EQ(Research[5].Name, "Water");
+  EXPECT_EQ(Research[5].Text, "Wells.\r\nOases.");
+  EXPECT_EQ(EngineVar[533].Value, 7);
+  EXPECT_EQ(EngineVar[235].Value, 2000);  // an import repairs this row to 2000
+  EXPECT_EQ(UI.EditMode, 1);
+  EXPECT_EQ(ReadBytes(path), scrambled);  // unscrambled to read, scrambled again
+}
+
+TEST_F(ScenarioFlow, ImportLeavesTheFileScrambled) {
+  world::NewMap(10, 10);
+  const std::string plain = SerializeScenario();
+  const std::string path = TempPath("plainrules.mf1");
+  WriteBytes(path, plain);
+  ASSERT_TRUE(ImportFile(path));
+  EXPECT_EQ(ReadBytes(path), Flipped(plain));
+  ASSERT_TRUE(ImportFile(path));
+  EXPECT_EQ(ReadBytes(path), Flipped(plain));
+}
+
+TEST_F(ScenarioFlow, ImportCommandAndItsFailures) {
+  ImportCommand();
+  EXPECT_EQ(Shown(), std::vector<std::string>{"Import canceled"});
+  EXPECT_EQ(dialogs.lastFilter, "Marrowfield (.mf1) files|*.mf1;*.ico");
+  EXPECT_FALSE(ImportFile(""));
+  EXPECT_FALSE(ImportFile(TempPath("none.mf1")));
+  EXPECT_EQ(Shown(), (std::vector<std::string>{"Import canceled", "Aborted", "File does not exist"}));
+}
+
+TEST_F(ScenarioFlow, MenuScenariosLoadFromTheScenariosFolder) {
+  fs::create_directories(ScenariosDir());
+  world::NewMap(10, 10);
+  world::AddRegime("Menu Two");
+  ASSERT_TRUE(WriteFile(ScenariosDir() + "/scenario2.mf1"));
+  onlyclear();
+  world::NewMap(10, 10);
+  world::AddRegime("Bare Three");
+  ASSERT_TRUE(WriteFile(ScenariosDir() + "/scenario3"));
+  onlyclear();
+  world::NewMap(10, 10);
+  world::AddRegime("Three With Extension");
+  ASSERT_TRUE(WriteFile(ScenariosDir() + "/scenario3.mf1"));
+
+  onlyclear();
+  dialogs.Clear();
+  LoadMenuScenario(2);
+  EXPECT_EQ(Regime[1].Name, "Menu Two");
+  EXPECT_EQ(Shown(), std::vector<std::string>{"Loaded"});
+  LoadMenuScenario(3);  // the bare name comes first when both exist
+  EXPECT_EQ(Regime[1].Name, "Bare Three");
+  dialogs.Clear();
+  LoadMenuScenario(4);
+  EXPECT_EQ(Shown(), std::vector<std::string>{"File does not exist"});
+  EXPECT_EQ(Game.RegimeCount, 0);  // cleared entirely before the attempt
+}
+
+}  // namespace
+}  // namespace mf::test
