@@ -389,6 +389,19 @@ void RecomputeCountersAndSprites() {
   LoadSprites();
 }
 
+// The two refusals a load and an import share, with their messages.
+bool CanOpenForReading(const std::string& path) {
+  if (path.empty()) {
+    Plat().ShowMessage("Aborted", "");
+    return false;
+  }
+  if (!FileExists(path)) {
+    Plat().ShowMessage("File does not exist", "");
+    return false;
+  }
+  return true;
+}
+
 }  // namespace
 
 // ---------------------------------------------------------------------------
@@ -429,14 +442,7 @@ bool WriteFile(const std::string& path) {
 }
 
 bool ReadFile(const std::string& path) {
-  if (path.empty()) {
-    Plat().ShowMessage("Aborted", "");
-    return false;
-  }
-  if (!FileExists(path)) {
-    Plat().ShowMessage("File does not exist", "");
-    return false;
-  }
+  if (!CanOpenForReading(path)) return false;
   UI.EditMode = 0;
   std::string bytes;
   ReadPlainBytes(path, bytes);
@@ -481,14 +487,7 @@ bool doGoLoad(const std::string& path) {
 }
 
 bool ImportFile(const std::string& path) {
-  if (path.empty()) {
-    Plat().ShowMessage("Aborted", "");
-    return false;
-  }
-  if (!FileExists(path)) {
-    Plat().ShowMessage("File does not exist", "");
-    return false;
-  }
+  if (!CanOpenForReading(path)) return false;
   UI.EditMode = 1;
   std::string bytes;
   ReadPlainBytes(path, bytes);

@@ -279,7 +279,18 @@ struct UIRec {
   std::string HelpText;
   std::string RegimeLabel;
   std::string TurnLabel;
+
+  // What the main window shows. Core routines set these; the window brings
+  // itself in line with them after every action of the player and every tick.
+  bool MapShown = true;          // the map picture is visible and takes clicks
+  bool PanelsShown = true;       // the side panels
+  bool MapControlsShown = true;  // order buttons, do and cancel buttons
+  bool BusyPointer = false;      // the driver is running; the timer leaves computer turns alone
+  Long RedrawRequest = 0;        // 0 nothing, 1 the 31 x 31 square around the selection, 2 the whole map
+  bool PanelDirty = false;       // the side panel must be rebuilt for the selected hex
+  std::string WindowTitle;       // "" shows the program's name
 };
+
 
 struct EngineVarRec {
   Long Value = 0;
@@ -304,6 +315,11 @@ extern EventRec Event[kEventCap + 1];
 extern EngineVarRec EngineVar[kEngineVarCap + 1];
 extern GameRec Game;
 extern UIRec UI;
+
+// Asks the window for a redraw: 1 the square around the selection, 2 everything.
+inline void RequestRedraw(Long what) {
+  if (what > UI.RedrawRequest) UI.RedrawRequest = what;
+}
 
 // Value of engine variable n, 0 outside 1..1000.
 inline Long EV(int n) { return (n >= 1 && n <= kEngineVarCap) ? EngineVar[n].Value : 0; }

@@ -1,0 +1,24 @@
+#include "dialog_views.h"
+
+#include <map>
+
+namespace mf::app {
+namespace {
+std::map<std::string, DialogViewFn>& Views() {
+  static std::map<std::string, DialogViewFn> views;
+  return views;
+}
+}  // namespace
+
+void RegisterDialogView(const std::string& name, DialogViewFn view) { Views()[name] = std::move(view); }
+
+DialogViewFn FindDialogView(const std::string& name) {
+  auto it = Views().find(name);
+  return it == Views().end() ? DialogViewFn() : it->second;
+}
+
+void RegisterAllDialogViews() {
+  // Each dialog module adds its registration here.
+}
+
+}  // namespace mf::app
