@@ -477,7 +477,7 @@ TEST_F(ScenarioFlow, ImportIntoARunningGameKeepsUnitsAndMap) {
   // Taken from the file.
   EXPECT_EQ(Game.DirMap, "\\desert\\map");
   EXPECT_EQ(Game.DirOfficer, "\\desert\\officer");
-  EXPECT_EQ(Game.GraphicsDirty, 1);
+  EXPECT_EQ(Game.GraphicsDirty, 0);  // taken, and cleared once the sprites came from those folders
   EXPECT_EQ(Game.PeopleCount, 1);
   EXPECT_EQ(People[1].Name, "Nomads");
   EXPECT_EQ(People[1].FirstName[1], "Ali");

@@ -257,7 +257,7 @@ std::string Version100File() {
   f.T("\\old\\colorcode");
   f.T("\\old\\sound");
   f.T("\\old\\type");
-  f.N(0);
+  f.N(1);   // GraphicsDirty: the folders above are the file's own and survive the load
   f.T("\\old\\officer");
   f.N(0);
   f.B(false);

@@ -249,6 +249,9 @@ TEST_F(ScenarioRoundTrip, ThroughScrambledFilesOnDisk) {
   ASSERT_TRUE(ReadFile(path));
   EXPECT_EQ(Messages(), std::vector<std::string>{"Loaded"});
   EXPECT_EQ(ReadBytes(path), onDisk);  // read twice transformed: scrambled again
+  // Loading the sprites from the file's own folders clears its folder flag.
+  EXPECT_EQ(Game.GraphicsDirty, 0);
+  Game.GraphicsDirty = 1;
   // A load recomputes the counters of the units; every other line is the same.
   EXPECT_EQ(WithoutCounters(SerializeScenario()), WithoutCounters(plain));
   EXPECT_EQ(Unit[4].Name, "3rd Rifles");
