@@ -1,9 +1,205 @@
 #include "view/counter.h"
 
+#include <cmath>
+
+#include "model/arith.h"
+#include "model/game_state.h"
+#include "model/rnd.h"
+#include "view/canvas.h"
+
 namespace mf {
 
-// The counter picture is chosen by the map view, which draws it; a load
-// calls this for every unit so that a stored CounterPic matches the rules.
-void Counter(int) {}
+namespace {
+
+// A type number from a unit slot, made safe for indexing: anything outside
+// the table reads as type 0, which has no attributes.
+const TypeRec& TypeOf(Long t) { return ValidType(t) ? Type[t] : Type[0]; }
+
+Long Attr(Long t, int attr) { return TypeOf(t).Attr[attr]; }
+
+const RegimeRec& RegimeOf(Long r) { return ValidRegime(r) ? Regime[r] : Regime[0]; }
+
+// Family of a formation that is no HQ, no ship and no aircraft, decided by
+// what its troops cost: trucks first, then long-range guns, armour, and the
+// infantry last, so a tie goes to the class tested first.
+int TroopFamily(int u) {
+  const UnitRec& un = Unit[u];
+  const double mob = static_cast<double>(TypeOf(un.MobType).Cost) * un.MobQty;
+  // Field guns that fire only at the front do not make an artillery counter.
+  const double art = Attr(un.ArtType, kArtilleryRange) > 1 ? static_cast<double>(TypeOf(un.ArtType).Cost) * un.ArtQty : 0.0;
+  const double arm = static_cast<double>(TypeOf(un.ArmType).Cost) * un.ArmQty;
+  const double inf = static_cast<double>(TypeOf(un.InfType).Cost) * un.InfQty;
+
+  // The deciding type may bring a counter of its own; it is always one of
+  // the classes held in strength, so Counter's override of held classes,
+  // which comes after, has the last word on it.
+  int family = kFamilyInfantry;
+  double best = 0;
+  if (mob > best) { best = mob; family = kFamilyInfantry; }
+  if (art > best) { best = art; family = kFamilyArtillery; }
+  if (arm > best) { best = arm; family = kFamilyArmour; }
+  if (inf > best) { best = inf; family = kFamilyInfantry; }
+
+  // More to carry than the trucks and tanks can take: the troops march.
+  if (family == kFamilyInfantry) {
+    const double load = static_cast<double>(Attr(un.InfType, kWeight)) * un.InfQty +
+                        static_cast<double>(Attr(un.ArtType, kWeight)) * un.ArtQty;
+    const double carry = static_cast<double>(Attr(un.MobType, kCarryCap)) * un.MobQty +
+                         static_cast<double>(Attr(un.ArmType, kCarryCap)) * un.ArmQty;
+    if ((load + 1) / (carry + 1) > 1) family = kFamilyFoot;
+  }
+  return family;
+}
+
+// The THQ badge of a THQ: the one it holds among its regime's badges 1..30,
+// or else the first free one, which it then holds. 0 when all are taken.
+Long ThqBadgeOf(int thq) {
+  const Long r = Unit[thq].Regime;
+  if (!ValidRegime(r)) return 0;
+  for (int b = 1; b <= kBadgesGiven; ++b) {
+    if (Regime[r].ThqBadgeUnit[b] == thq) return b;
+  }
+  for (int b = 1; b <= kBadgesGiven; ++b) {
+    if (Regime[r].ThqBadgeUnit[b] == 0) {
+      Regime[r].ThqBadgeUnit[b] = thq;
+      return b;
+    }
+  }
+  return 0;
+}
+
+// One figure through readiness, experience and the counter divider.
+long ScaleFigure(double raw, Long readiness, Long experience) {
+  double v = std::trunc(raw * readiness / 100.0);
+  v = std::trunc(v * experience / 100.0);
+  Long divider = EV(301);
+  if (divider < 1) divider = 1;  // a zeroed rule must not wipe every counter
+  v = std::trunc(v / divider);
+  if (v > 99) v = 99;
+  return static_cast<long>(v);
+}
+
+}  // namespace
+
+bool SeesUnitFully(int u) {
+  if (UI.EditMode == 1 || Game.FogOfWar == 0) return true;
+  return ValidUnit(u) && Unit[u].Regime == Game.CurRegime;
+}
+
+void Counter(int u) {
+  if (!ValidUnit(u)) return;
+  UnitRec& un = Unit[u];
+
+  int family;
+  if (un.Shq > 0) {
+    family = kFamilyShq;
+  } else if (un.Thq > 0) {
+    family = kFamilyThq;
+  } else if (un.Theater == kSeaTheater) {
+    family = kFamilyShip;
+  } else if (un.Theater == kAirTheater) {
+    family = kFamilyAircraft;
+  } else {
+    family = TroopFamily(u);
+  }
+
+  // Any type held in strength may bring its own counter; the last held slot
+  // with one, in the order infantry, mobile, artillery, armour, wins.
+  const Long types[4] = {un.InfType, un.MobType, un.ArtType, un.ArmType};
+  const Long qtys[4] = {un.InfQty, un.MobQty, un.ArtQty, un.ArmQty};
+  for (int k = 0; k < 4; ++k) {
+    if (types[k] > 0 && qtys[k] > 0 && TypeOf(types[k]).Override > 0) family = TypeOf(types[k]).Override;
+  }
+
+  if (family >= kCounterOwnSprite) {
+    un.CounterPic = family;
+  } else {
+    Long colour = RegimeOf(un.Regime).HexSprite;
+    // The player's own formations tell him what is wrong with them: cut off
+    // from the chain of command, and (which shows over it) out of supply.
+    if (un.Regime == Game.CurRegime && UI.EditMode == 0) {
+      if (un.Shq <= 0 && un.Boss <= 0) colour = kCounterNoChain;
+      if (un.Shq <= 0 && un.SupplyPct == 0) colour = kCounterNoSupply;
+    }
+    // A colour beyond the table reads as no picture rather than a wrapped number.
+    const long long pic = 180 + 20LL * family + colour;
+    un.CounterPic = pic >= 0 && pic <= 2100 ? static_cast<Long>(pic) : 0;
+  }
+
+  if (un.Thq > 0) {
+    un.ThqBadge = ThqBadgeOf(u);
+  } else if (ValidUnit(un.Boss) && Unit[un.Boss].Thq > 0 && Unit[un.Boss].Regime == un.Regime) {
+    un.ThqBadge = ThqBadgeOf(un.Boss);
+    Unit[un.Boss].ThqBadge = un.ThqBadge;
+  } else {
+    un.ThqBadge = 0;
+  }
+}
+
+CounterNumbers CounterFigures(int u) {
+  CounterNumbers n;
+  if (!ValidUnit(u)) return n;
+  const UnitRec& un = Unit[u];
+  const Long types[4] = {un.InfType, un.MobType, un.ArtType, un.ArmType};
+  const Long qtys[4] = {un.InfQty, un.MobQty, un.ArtQty, un.ArmQty};
+  double attack = 0, defence = 0, soft = 0;
+  for (int k = 0; k < 4; ++k) {
+    const Long t = types[k];
+    const double q = qtys[k];
+    // Infantry and armour are many men and few tanks: their hit points weigh in.
+    double w = 1.0;
+    if (k == 0) w = Attr(t, kHitPoints) / 20.0;
+    if (k == 3) w = Attr(t, kHitPoints) / 200.0;
+    soft += Attr(t, kSoftAttack) * q * w;
+    attack += (Attr(t, kSoftAttack) + Attr(t, kHardAttack)) * q * w;
+    defence += (Attr(t, kSoftDefense) + Attr(t, kHardDefense)) * q * w;
+  }
+  n.softAttack = soft;
+  n.attackSum = attack;
+  n.attack = ScaleFigure(attack, un.Readiness, un.Experience);
+  n.defence = ScaleFigure(defence, un.Readiness, un.Experience);
+  if (un.ArtType > 0 && Attr(un.ArtType, kArtilleryRange) > 1) {
+    n.hasArtillery = true;
+    const double guns = static_cast<double>(Attr(un.ArtType, kArtilleryAttack) + Attr(un.ArtType, kAntiAirCap)) * un.ArtQty;
+    n.artillery = ScaleFigure(guns, un.Readiness, un.Experience);
+  }
+  return n;
+}
+
+CounterTexts CounterFigureTexts(int u) {
+  CounterTexts t;
+  if (!ValidUnit(u)) return t;
+  const UnitRec& un = Unit[u];
+  const CounterNumbers n = CounterFigures(u);
+  if (SeesUnitFully(u)) {
+    t.attack = NumText(n.attack);
+    t.defence = NumText(n.defence);
+    if (n.hasArtillery) t.artillery = NumText(n.artillery);
+  } else {
+    // An enemy under fog: a rough figure that does not flicker from one
+    // redraw to the next, since the seed is the same all through the turn.
+    double a = static_cast<double>(Int((n.attack + n.defence) / 2.0));
+    SeedRnd(static_cast<std::uint32_t>(Game.CurRegime + Game.Turn + un.Readiness + u));
+    a = a + 0.2 * a;
+    const double r = Rnd();
+    a = a - r * a * 0.4;
+    if (a < 0) a = 0;
+    t.attack = "+-" + NumText(static_cast<long>(std::trunc(a)));
+  }
+  if (un.Theater == kLandTheater && n.softAttack < EV(101)) t.attack = "Low";
+  if (n.attackSum == 0) t.attack = "   0";
+  if (un.Shq > 0) t.attack = "SHQ";
+  return t;
+}
+
+void DrawCounterFigures(Canvas& canvas, int u, int left, int top) {
+  if (!ValidUnit(u)) return;
+  const CounterTexts t = CounterFigureTexts(u);
+  const Colour colour = ParseTextColour(RegimeOf(Unit[u].Regime).TextColor);
+  const std::string font = "Small Fonts";
+  if (!t.attack.empty()) canvas.Text(t.attack, left + kAttackTextX, top + kFigureTextY, font, kFigureFontSize, colour);
+  if (!t.defence.empty()) canvas.Text(t.defence, left + kDefenceTextX, top + kFigureTextY, font, kFigureFontSize, colour);
+  if (!t.artillery.empty()) canvas.Text(t.artillery, left + kArtilleryTextX, top + kArtilleryTextY, font, kFigureFontSize, colour);
+}
 
 }  // namespace mf
