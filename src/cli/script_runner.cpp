@@ -7,6 +7,7 @@
 #include <sstream>
 #include <vector>
 
+#include "engine/turn_cycle.h"
 #include "files/field_registry.h"
 #include "files/scenario_file.h"
 #include "model/arith.h"
@@ -155,16 +156,71 @@ bool Answer(Run& run, const Words& a, std::string*) {
   return true;
 }
 
+// "key=value" as a dialog action and its value; a word without "=" is an action alone.
+DialogAction SplitAction(const std::string& word) {
+  const std::size_t eq = word.find('=');
+  if (eq == std::string::npos) return {word, ""};
+  return {word.substr(0, eq), word.substr(eq + 1)};
+}
+
 bool On(Run& run, const Words& a, std::string*) {
   std::vector<DialogAction> actions;
   for (std::size_t i = 1; i < a.size(); ++i) {
-    const std::size_t eq = a[i].find('=');
-    if (eq == std::string::npos)
-      actions.push_back({a[i], ""});
-    else
-      actions.push_back({a[i].substr(0, eq), a[i].substr(eq + 1)});
+    DialogAction action = SplitAction(a[i]);
+    // The play-by-mail save of the New Turn dialog names a file of the script.
+    if (a[0] == "newturn" && action.action == "savepbem") action.value = run.Path(action.value);
+    actions.push_back(std::move(action));
   }
   run.platform.QueueDialog(a[0], std::move(actions));
+  return true;
+}
+
+// The Start Game dialog with its boxes set as given, then Start. With no
+// settings nothing is queued, so that actions queued by "on startgame" are
+// the ones taken. A refused Start fails the script (the dialog's own report).
+bool Start(Run& run, const Words& a, std::string* why) {
+  static const char* const kKeys[] = {"fog", "exploration", "pbem", "passwords", "aibonus", "ai", "email"};
+  std::vector<DialogAction> actions;
+  for (const auto& word : a) {
+    DialogAction action = SplitAction(word);
+    bool known = false;
+    for (const char* key : kKeys) known = known || action.action == key;
+    if (!known || word.find('=') == std::string::npos) {
+      *why = "start: \"" + word + "\" is not one of fog=, exploration=, pbem=, passwords=, aibonus=, ai=, email=";
+      return false;
+    }
+    actions.push_back(std::move(action));
+  }
+  if (!actions.empty()) {
+    actions.push_back({"start", ""});
+    run.platform.QueueDialog("startgame", std::move(actions));
+  }
+  StartCommand();
+  return true;
+}
+
+// The End Turn command answered Yes (in editing mode it refuses by itself).
+bool EndTurn(Run& run, const Words&, std::string*) {
+  if (EndTurnAsks()) run.platform.QueueAnswerFirst("yes");
+  EndTurnCommand();
+  return true;
+}
+
+bool Surrender(Run&, const Words&, std::string*) {
+  SurrenderCommand();
+  return true;
+}
+
+bool Tick(Run&, const Words& a, std::string* why) {
+  long n = 1;
+  if (!a.empty()) {
+    if (!IsWholeNumber(a[0]) || a[0].size() > 6) {
+      *why = "tick: \"" + a[0] + "\" is not a whole number 0..999999";
+      return false;
+    }
+    n = std::stol(a[0]);
+  }
+  for (long i = 0; i < n; ++i) TimerTick();
   return true;
 }
 
@@ -184,10 +240,12 @@ const Command kCommands[] = {
     {"expect-msg", 1, 1, "expect-msg \"TEXT\"", &ExpectMsg},
     {"answer", 1, -1, "answer A [A ...]", &Answer},
     {"on", 1, -1, "on DIALOG ACTION ...", &On},
-    {"tick", 0, 1, "tick [N]", nullptr},
-    {"start", 0, -1, "start [key=value ...]", nullptr},
-    {"endturn", 0, 0, "endturn", nullptr},
-    {"surrender", 0, 0, "surrender", nullptr},
+    {"tick", 0, 1, "tick [N]", &Tick},
+    {"start", 0, -1,
+     "start [fog=0/1] [exploration=0/1] [pbem=0/1] [passwords=0/1] [aibonus=0/1] [ai=1,0,..] [email=a,b,..]",
+     &Start},
+    {"endturn", 0, 0, "endturn", &EndTurn},
+    {"surrender", 0, 0, "surrender", &Surrender},
     {"click", 2, 3, "click X Y [right]", nullptr},
     {"press", 1, 1, "press NAME", nullptr},
     {"key", 1, 1, "key NAME", nullptr},

@@ -1,6 +1,9 @@
 // The turn cycle: regimes take turns.
 #pragma once
 
+#include <functional>
+#include <string>
+
 namespace mf {
 
 // The next-turn driver: advances Game.CurRegime (and Game.Turn), shows a
@@ -18,5 +21,17 @@ void StartCommand();      // the Start Game dialog, then the first turn
 
 // One tick of the repeating timer of the main window.
 void TimerTick();
+
+// True when the End Turn command would put its question now: a game is in
+// play, not in editing mode, and the driver is not running.
+bool EndTurnAsks();
+
+// Watches the turn cycle: called with the name of each routine of another
+// subsystem just before the turn cycle calls it ("RunEvents", "doNewTurnForm",
+// "HexCapture", "ServeSupply", "RecoveryPass 3,4,1", "TownOutput 3,4",
+// "PoolTransport", "ClearFlood", "SightPass", "AITurn", "DropThq 12",
+// "DoShowEvent 5"). Tests follow the order of a turn with it; play leaves it empty.
+using TurnStepWatcher = std::function<void(const std::string& step)>;
+void SetTurnStepWatcher(TurnStepWatcher watcher);
 
 }  // namespace mf

@@ -49,6 +49,9 @@ class Platform {
   virtual void RunDialog(HumbleDialog& dialog) = 0;
   // Milliseconds since some fixed start.
   virtual unsigned TickCount() = 0;
+  // Whether the mouse button is held down now; a dragged scroll bar waits for
+  // its release before the map is redrawn.
+  virtual bool MouseButtonDown() { return false; }
 };
 
 // The installed platform. Before anything is installed a scripted platform

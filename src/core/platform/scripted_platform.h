@@ -48,6 +48,8 @@ class ScriptedPlatform : public Platform {
   // "ok", "cancel", or any text (for prompts). A question with nothing queued
   // is answered "no"; a prompt with nothing queued takes its default.
   void QueueAnswer(const std::string& answer) { answers_.push_back(answer); }
+  // An answer for the very next message box or prompt, ahead of those queued.
+  void QueueAnswerFirst(const std::string& answer) { answers_.push_front(answer); }
   // Paths for the next file dialogs; "" cancels.
   void QueueFile(const std::string& path) { files_.push_back(path); }
   // Actions for the next opening of a dialog by name.

@@ -1,0 +1,165 @@
+#include "new_turn_view.h"
+
+#include <QApplication>
+#include <QCursor>
+#include <QDialog>
+#include <QFont>
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include "dialog_views.h"
+#include "engine/new_turn_dialog.h"
+
+namespace mf::app {
+namespace {
+
+QString Q(const std::string& s) { return QString::fromStdString(s); }
+
+// The New Turn dialog closes only by its own buttons: the player proceeds or
+// leaves the game, never just closes the window.
+class NewTurnWindow : public QDialog {
+ public:
+  explicit NewTurnWindow(QWidget* parent) : QDialog(parent) {}
+  void reject() override {}
+};
+
+void Fill(QListWidget* list, const std::vector<std::string>& rows) {
+  list->clear();
+  for (const auto& row : rows) list->addItem(Q(row));
+}
+
+void ShowNewTurn(mf::HumbleDialog& humble, QWidget* parent) {
+  auto* dialog = dynamic_cast<mf::NewTurnDialog*>(&humble);
+  if (!dialog) return;
+  NewTurnWindow window(parent);
+  window.setObjectName("newTurnDialog");
+  window.setWindowTitle(Q(dialog->caption));
+  window.setMinimumWidth(640);
+  auto* layout = new QVBoxLayout(&window);
+
+  // The report: headline, the three lists, the briefing.
+  auto* report = new QWidget(&window);
+  report->setObjectName("report");
+  auto* reportLayout = new QVBoxLayout(report);
+  reportLayout->setContentsMargins(0, 0, 0, 0);
+  auto* headlineTitle = new QLabel(report);
+  headlineTitle->setObjectName("headlineTitle");
+  QFont big = headlineTitle->font();
+  big.setBold(true);
+  big.setPointSize(big.pointSize() + 4);
+  headlineTitle->setFont(big);
+  auto* headlineText = new QLabel(report);
+  headlineText->setObjectName("headlineText");
+  headlineText->setWordWrap(true);
+  reportLayout->addWidget(headlineTitle);
+  reportLayout->addWidget(headlineText);
+  auto* lists = new QGridLayout();
+  auto* news = new QListWidget(report);
+  news->setObjectName("news");
+  auto* losses = new QListWidget(report);
+  losses->setObjectName("losses");
+  auto* kills = new QListWidget(report);
+  kills->setObjectName("kills");
+  lists->addWidget(new QLabel(Q(dialog->newsTitle), report), 0, 0);
+  lists->addWidget(new QLabel(Q(dialog->lossesTitle), report), 0, 1);
+  lists->addWidget(new QLabel(Q(dialog->killsTitle), report), 0, 2);
+  lists->addWidget(news, 1, 0);
+  lists->addWidget(losses, 1, 1);
+  lists->addWidget(kills, 1, 2);
+  reportLayout->addLayout(lists);
+  reportLayout->addWidget(new QLabel(Q(dialog->briefingTitle), report));
+  auto* briefing = new QPlainTextEdit(report);
+  briefing->setObjectName("briefing");
+  briefing->setReadOnly(true);
+  reportLayout->addWidget(briefing);
+  layout->addWidget(report);
+
+  // The password part.
+  auto* passwordPart = new QWidget(&window);
+  passwordPart->setObjectName("passwordPart");
+  auto* passwordLayout = new QHBoxLayout(passwordPart);
+  passwordLayout->setContentsMargins(0, 0, 0, 0);
+  passwordLayout->addWidget(new QLabel(Q(dialog->passwordLabel), passwordPart));
+  auto* password = new QLineEdit(passwordPart);
+  password->setObjectName("password");
+  password->setEchoMode(QLineEdit::Password);
+  auto* passwordButton = new QPushButton(passwordPart);
+  passwordButton->setObjectName("passwordButton");
+  passwordLayout->addWidget(password, 1);
+  passwordLayout->addWidget(passwordButton);
+  layout->addWidget(passwordPart);
+
+  // The buttons.
+  auto* buttons = new QHBoxLayout();
+  auto* pbem = new QPushButton(&window);
+  pbem->setObjectName("savePbem");
+  auto* exitGame = new QPushButton(Q(dialog->exitCaption), &window);
+  exitGame->setObjectName("exitGame");
+  auto* proceed = new QPushButton(&window);
+  proceed->setObjectName("proceed");
+  proceed->setDefault(true);
+  buttons->addWidget(pbem);
+  buttons->addStretch(1);
+  buttons->addWidget(exitGame);
+  buttons->addWidget(proceed);
+  layout->addLayout(buttons);
+
+  auto refresh = [=, &window] {
+    report->setVisible(dialog->reportShown);
+    headlineTitle->setText(Q(dialog->headlineTitle));
+    headlineText->setText(Q(dialog->headlineText));
+    Fill(news, dialog->newsRows);
+    Fill(losses, dialog->lossRows);
+    Fill(kills, dialog->killRows);
+    briefing->setPlainText(Q(dialog->briefing));
+    passwordPart->setVisible(dialog->passwordShown);
+    passwordButton->setText(Q(dialog->passwordButtonCaption));
+    pbem->setVisible(dialog->pbemShown);
+    pbem->setText(Q(dialog->pbemCaption));
+    proceed->setText(Q(dialog->proceedCaption));
+    if (!dialog->IsOpen()) window.accept();
+  };
+  // A refused button has already told the player why in a message box.
+  QObject::connect(password, &QLineEdit::textChanged, &window,
+                   [dialog](const QString& t) { dialog->SetPasswordText(t.toStdString()); });
+  QObject::connect(passwordButton, &QPushButton::clicked, &window, [dialog, refresh] {
+    std::string why;
+    dialog->PasswordButton(&why);
+    refresh();
+  });
+  QObject::connect(proceed, &QPushButton::clicked, &window, [dialog, refresh] {
+    std::string why;
+    dialog->ProceedButton(&why);
+    refresh();
+  });
+  QObject::connect(pbem, &QPushButton::clicked, &window, [dialog, refresh] {
+    std::string why;
+    dialog->SavePbemButton("", &why);
+    refresh();
+  });
+  QObject::connect(exitGame, &QPushButton::clicked, &window, [dialog, refresh] {
+    std::string why;
+    dialog->ExitButton(&why);
+    refresh();
+  });
+  refresh();
+
+  // The turn changes hands under the busy pointer; the player reading his
+  // report gets the ordinary one.
+  QApplication::setOverrideCursor(QCursor(Qt::ArrowCursor));
+  // exec() runs the event loop, so the main window's timer keeps ticking.
+  if (dialog->IsOpen()) window.exec();
+  QApplication::restoreOverrideCursor();
+}
+
+}  // namespace
+
+void RegisterNewTurnView() { RegisterDialogView("newturn", &ShowNewTurn); }
+
+}  // namespace mf::app

@@ -1,0 +1,166 @@
+#include "start_game_view.h"
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QCursor>
+#include <QDialog>
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QSignalBlocker>
+#include <QVBoxLayout>
+
+#include "dialog_views.h"
+#include "engine/start_game_dialog.h"
+
+namespace mf::app {
+namespace {
+
+QString Q(const std::string& s) { return QString::fromStdString(s); }
+
+void ShowStartGame(mf::HumbleDialog& humble, QWidget* parent) {
+  auto* dialog = dynamic_cast<mf::StartGameDialog*>(&humble);
+  if (!dialog) return;
+  QDialog window(parent);
+  window.setObjectName("startGameDialog");
+  window.setWindowTitle(Q(dialog->caption));
+  auto* layout = new QVBoxLayout(&window);
+
+  auto* story = new QPlainTextEdit(Q(dialog->story), &window);
+  story->setObjectName("story");
+  story->setReadOnly(true);
+  layout->addWidget(story);
+
+  auto* options = new QHBoxLayout();
+  auto* game = new QGroupBox(Q(dialog->gameOptionsTitle), &window);
+  auto* gameLayout = new QVBoxLayout(game);
+  auto* pbem = new QCheckBox(Q(dialog->pbemLabel), game);
+  pbem->setObjectName("pbem");
+  auto* passwords = new QCheckBox(Q(dialog->passwordsLabel), game);
+  passwords->setObjectName("passwords");
+  auto* aiBonus = new QCheckBox(Q(dialog->aiBonusLabel), game);
+  aiBonus->setObjectName("aiBonus");
+  gameLayout->addWidget(pbem);
+  gameLayout->addWidget(passwords);
+  gameLayout->addWidget(aiBonus);
+  auto* fogGroup = new QGroupBox(Q(dialog->fogOptionsTitle), &window);
+  auto* fogLayout = new QVBoxLayout(fogGroup);
+  auto* fog = new QCheckBox(Q(dialog->fogLabel), fogGroup);
+  fog->setObjectName("fog");
+  auto* exploration = new QCheckBox(Q(dialog->explorationLabel), fogGroup);
+  exploration->setObjectName("exploration");
+  fogLayout->addWidget(fog);
+  fogLayout->addWidget(exploration);
+  options->addWidget(game);
+  options->addWidget(fogGroup);
+  layout->addLayout(options);
+
+  // One row per regime: name, the "Human" choice, the e-mail address.
+  auto* grid = new QGridLayout();
+  grid->addWidget(new QLabel(Q(dialog->regimeColumn), &window), 0, 0);
+  grid->addWidget(new QLabel(Q(dialog->playerColumn), &window), 0, 1);
+  grid->addWidget(new QLabel(Q(dialog->emailColumn), &window), 0, 2);
+  QLabel* names[mf::kStartRows + 1] = {};
+  QCheckBox* humans[mf::kStartRows + 1] = {};
+  QLineEdit* emails[mf::kStartRows + 1] = {};
+  for (int r = 1; r <= mf::kStartRows; ++r) {
+    names[r] = new QLabel(&window);
+    humans[r] = new QCheckBox(Q(dialog->humanLabel), &window);
+    humans[r]->setObjectName(QString("human%1").arg(r));
+    emails[r] = new QLineEdit(&window);
+    emails[r]->setObjectName(QString("email%1").arg(r));
+    grid->addWidget(names[r], r, 0);
+    grid->addWidget(humans[r], r, 1);
+    grid->addWidget(emails[r], r, 2);
+  }
+  layout->addLayout(grid);
+
+  auto* buttons = new QHBoxLayout();
+  auto* cancel = new QPushButton(Q(dialog->cancelCaption), &window);
+  cancel->setObjectName("cancel");
+  auto* start = new QPushButton(Q(dialog->startCaption), &window);
+  start->setObjectName("start");
+  start->setDefault(true);
+  buttons->addStretch(1);
+  buttons->addWidget(cancel);
+  buttons->addWidget(start);
+  layout->addLayout(buttons);
+
+  // The dialog decides what each box ends up as (a box may pull another
+  // with it, or refuse); the window only shows that.
+  auto refresh = [=] {
+    const QSignalBlocker b1(fog), b2(exploration), b3(pbem), b4(passwords), b5(aiBonus);
+    fog->setChecked(dialog->fog);
+    exploration->setChecked(dialog->exploration);
+    pbem->setChecked(dialog->pbem);
+    passwords->setChecked(dialog->passwords);
+    aiBonus->setChecked(dialog->aiBonus);
+    for (int r = 1; r <= mf::kStartRows; ++r) {
+      const mf::StartGameRow& row = dialog->rows[r];
+      const QSignalBlocker bh(humans[r]);
+      names[r]->setVisible(row.shown);
+      humans[r]->setVisible(row.shown);
+      emails[r]->setVisible(row.shown);
+      names[r]->setText(Q(row.name));
+      humans[r]->setChecked(row.human);
+      if (emails[r]->text() != Q(row.email)) {
+        const QSignalBlocker be(emails[r]);
+        emails[r]->setText(Q(row.email));
+      }
+    }
+  };
+  QObject::connect(fog, &QCheckBox::toggled, &window, [=](bool on) {
+    dialog->SetFog(on);
+    refresh();
+  });
+  QObject::connect(exploration, &QCheckBox::toggled, &window, [=](bool on) {
+    dialog->SetExploration(on);
+    refresh();
+  });
+  QObject::connect(pbem, &QCheckBox::toggled, &window, [=](bool on) {
+    dialog->SetPbem(on);
+    refresh();
+  });
+  QObject::connect(passwords, &QCheckBox::toggled, &window, [=](bool on) {
+    dialog->SetPasswords(on);
+    refresh();
+  });
+  QObject::connect(aiBonus, &QCheckBox::toggled, &window, [=](bool on) {
+    dialog->SetAIBonus(on);
+    refresh();
+  });
+  for (int r = 1; r <= mf::kStartRows; ++r) {
+    QObject::connect(humans[r], &QCheckBox::toggled, &window, [=](bool on) {
+      std::string why;
+      dialog->SetHuman(r, on, &why);
+      refresh();
+    });
+    QObject::connect(emails[r], &QLineEdit::textEdited, &window, [=](const QString& t) {
+      std::string why;
+      dialog->SetEmail(r, t.toStdString(), &why);
+    });
+  }
+  QObject::connect(start, &QPushButton::clicked, &window, [dialog, &window] {
+    std::string why;
+    // A refusal has shown its message; the dialog stays for the player to mend.
+    if (dialog->StartButton(&why)) window.accept();
+  });
+  QObject::connect(cancel, &QPushButton::clicked, &window, [&window] { window.reject(); });
+  refresh();
+
+  QApplication::setOverrideCursor(QCursor(Qt::ArrowCursor));
+  window.exec();
+  QApplication::restoreOverrideCursor();
+  // Cancel, Esc and the frame's close all cancel.
+  if (dialog->IsOpen()) dialog->CancelButton();
+}
+
+}  // namespace
+
+void RegisterStartGameView() { RegisterDialogView("startgame", &ShowStartGame); }
+
+}  // namespace mf::app

@@ -1,0 +1,10 @@
+#include "engine/production.h"
+
+namespace mf {
+
+// Adds the town's political points or unit-type production for this turn.
+void TownOutput(int, int) {}
+// Works out how much the SHQ pools can carry over land and by sea.
+void PoolTransport() {}
+
+}  // namespace mf

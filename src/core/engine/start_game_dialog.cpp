@@ -1,0 +1,192 @@
+#include "engine/start_game_dialog.h"
+
+#include <vector>
+
+#include "model/arith.h"
+#include "model/game_state.h"
+
+namespace mf {
+namespace {
+
+int RowsInUse() {
+  if (Game.RegimeCount < 0) return 0;
+  return Game.RegimeCount > kStartRows ? kStartRows : static_cast<int>(Game.RegimeCount);
+}
+
+// A box value of a script: "1" or "0".
+bool BoxValue(const std::string& value, bool* on, std::string* why) {
+  if (value == "1" || value == "0") {
+    *on = value == "1";
+    return true;
+  }
+  *why = "a box takes 0 or 1, not \"" + value + "\"";
+  return false;
+}
+
+// Splits "a,b,,c" at the commas, keeping empty entries.
+std::vector<std::string> SplitCommas(const std::string& text) {
+  std::vector<std::string> parts;
+  std::string::size_type start = 0;
+  while (true) {
+    const auto comma = text.find(',', start);
+    parts.push_back(text.substr(start, comma == std::string::npos ? std::string::npos : comma - start));
+    if (comma == std::string::npos) break;
+    start = comma + 1;
+  }
+  return parts;
+}
+
+}  // namespace
+
+void StartGameDialog::Mirror() {
+  fog = Game.FogOfWar == 1;
+  exploration = Game.FogOfExploration == 1;
+  pbem = Game.PBEM == 1;
+  passwords = Game.UsePasswords == 1;
+  aiBonus = Game.AIProdBonus == 1;
+  const int inUse = RowsInUse();
+  for (int r = 1; r <= kStartRows; ++r) {
+    StartGameRow& row = rows[r];
+    row.shown = r <= inUse;
+    row.name = row.shown ? Regime[r].Name : std::string();
+    row.human = row.shown ? Regime[r].AI == 0 : true;
+    row.email = row.shown ? Regime[r].Email : std::string();
+  }
+}
+
+void StartGameDialog::Prepare() {
+  story = Game.ScenarioStory;
+  open = true;
+  started = false;
+  refused = false;
+  refusal.clear();
+  Mirror();
+}
+
+void StartGameDialog::SetFog(bool on) {
+  Game.FogOfWar = on ? 1 : 0;
+  if (!on) Game.FogOfExploration = 0;
+  Mirror();
+}
+
+void StartGameDialog::SetExploration(bool on) {
+  Game.FogOfExploration = on ? 1 : 0;
+  if (on) Game.FogOfWar = 1;
+  Mirror();
+}
+
+void StartGameDialog::SetPbem(bool on) {
+  Game.PBEM = on ? 1 : 0;
+  Mirror();
+}
+
+void StartGameDialog::SetPasswords(bool on) {
+  Game.UsePasswords = on ? 1 : 0;
+  Mirror();
+}
+
+void StartGameDialog::SetAIBonus(bool on) {
+  Game.AIProdBonus = on ? 1 : 0;
+  Mirror();
+}
+
+bool StartGameDialog::SetHuman(int row, bool human, std::string* why) {
+  if (row < 1 || row > RowsInUse()) {
+    *why = "there is no row for regime " + std::to_string(row);
+    return false;
+  }
+  if (!human && EV(701) == 1) {
+    Plat().ShowMessage("The AI is not allowed to play in this scenario.", "");
+    Regime[row].AI = 0;
+  } else {
+    Regime[row].AI = human ? 0 : 1;
+  }
+  Mirror();
+  return true;
+}
+
+bool StartGameDialog::SetEmail(int row, const std::string& email, std::string* why) {
+  if (row < 1 || row > RowsInUse()) {
+    *why = "there is no row for regime " + std::to_string(row);
+    return false;
+  }
+  Regime[row].Email = email;
+  Mirror();
+  return true;
+}
+
+bool StartGameDialog::StartButton(std::string* why) {
+  if (!open) {
+    *why = "the dialog is closed";
+    return false;
+  }
+  int humans = 0;
+  bool addressMissing = false;
+  for (int r = 1; r <= RowsInUse(); ++r) {
+    if (Regime[r].AI != 0) continue;
+    ++humans;
+    if (Trim(Regime[r].Email).empty()) addressMissing = true;
+  }
+  // Every check is made; the last that fails is the one the player reads.
+  std::string message;
+  if (Game.PBEM == 1 && humans == 1) message = "No PBEM possible with only 1 human player.";
+  if (Game.PBEM == 1 && addressMissing) message = "One of human email adresses not known. Not possible in PBEM.";
+  if (Game.FogOfWar == 1 && Game.ShowAIMoves != kFalse) message = "You cannot show AI moves if Fog Of War is on";
+  if (Game.FogOfWar == 1 && Game.AIAnalysis != kFalse) message = "You cannot do Analysis is Fog of War is on";
+  if (!message.empty()) {
+    Plat().ShowMessage(message, "");
+    refused = true;
+    refusal = message;
+    *why = message;
+    return false;
+  }
+  refused = false;
+  refusal.clear();
+  Game.SpareFlag = kFalse;
+  started = true;
+  open = false;
+  return true;
+}
+
+void StartGameDialog::CancelButton() {
+  started = false;
+  open = false;
+}
+
+bool StartGameDialog::Act(const std::string& action, const std::string& value, std::string* why) {
+  bool on = false;
+  if (action == "fog" || action == "exploration" || action == "pbem" || action == "passwords" ||
+      action == "aibonus") {
+    if (!BoxValue(value, &on, why)) return false;
+    if (action == "fog") SetFog(on);
+    if (action == "exploration") SetExploration(on);
+    if (action == "pbem") SetPbem(on);
+    if (action == "passwords") SetPasswords(on);
+    if (action == "aibonus") SetAIBonus(on);
+    return true;
+  }
+  if (action == "ai") {
+    const auto entries = SplitCommas(value);
+    for (std::size_t i = 0; i < entries.size(); ++i) {
+      if (!BoxValue(entries[i], &on, why)) return false;
+      if (!SetHuman(static_cast<int>(i) + 1, !on, why)) return false;
+    }
+    return true;
+  }
+  if (action == "email") {
+    const auto entries = SplitCommas(value);
+    for (std::size_t i = 0; i < entries.size(); ++i)
+      if (!SetEmail(static_cast<int>(i) + 1, entries[i], why)) return false;
+    return true;
+  }
+  if (action == "start") return StartButton(why);
+  if (action == "cancel") {
+    CancelButton();
+    return true;
+  }
+  *why = "no action \"" + action +
+         "\" in the Start Game dialog (fog, exploration, pbem, passwords, aibonus, ai, email, start, cancel)";
+  return false;
+}
+
+}  // namespace mf

@@ -1,0 +1,89 @@
+// The Start Game dialog: the scenario's story, the game options, and who
+// plays each regime (the computer or a human, and his e-mail address).
+// Every box writes straight into the game, as the player clicks it.
+#pragma once
+
+#include <string>
+
+#include "model/capacity.h"
+#include "platform/platform.h"
+
+namespace mf {
+
+// Rows the dialog has: one per regime, up to the real regime limit.
+constexpr int kStartRows = kSightRegimes;
+
+struct StartGameRow {
+  bool shown = false;  // rows above Game.RegimeCount are hidden
+  std::string name;
+  bool human = true;   // the "Human" choice; off means the computer plays it
+  std::string email;
+};
+
+class StartGameDialog : public HumbleDialog {
+ public:
+  // Fills the outputs from the stored values and opens the dialog.
+  void Prepare();
+
+  // ---- Outputs ------------------------------------------------------------
+  std::string caption = "Start Game";
+  std::string story;
+  std::string gameOptionsTitle = "GAME OPTIONS";
+  std::string fogOptionsTitle = "FOG OF WAR OPTIONS";
+  std::string fogLabel = "Fog of War";
+  std::string explorationLabel = "Fog of Exploration";
+  std::string pbemLabel = "Play By Email";
+  std::string passwordsLabel = "Use Passwords";
+  std::string aiBonusLabel = "AI gets production bonus";
+  std::string regimeColumn = "Regime";
+  std::string playerColumn = "AI / Human";
+  std::string emailColumn = "E-mail";
+  std::string humanLabel = "Human";
+  std::string startCaption = "Start";
+  std::string cancelCaption = "Cancel";
+  bool fog = false;
+  bool exploration = false;
+  bool pbem = false;
+  bool passwords = false;
+  bool aiBonus = false;
+  StartGameRow rows[kStartRows + 1];  // 1-based
+
+  // ---- State --------------------------------------------------------------
+  bool open = false;
+  bool started = false;     // closed by Start with every check passed
+  bool refused = false;     // the last press of Start was refused
+  std::string refusal;      // its message
+
+  // ---- The player's actions -------------------------------------------------
+  // Fog of exploration needs fog of war: turning fog off turns exploration off.
+  void SetFog(bool on);
+  // ... and turning exploration on turns fog on.
+  void SetExploration(bool on);
+  void SetPbem(bool on);
+  void SetPasswords(bool on);
+  void SetAIBonus(bool on);
+  // The "Human" choice of a row; a scenario that forbids the computer keeps
+  // every row human. False for a hidden row.
+  bool SetHuman(int row, bool human, std::string* why);
+  bool SetEmail(int row, const std::string& email, std::string* why);
+  // Runs the four checks; the message of the last one that fails is shown and
+  // the dialog stays open. When all pass, Game.SpareFlag is cleared and the
+  // dialog closes with `started`.
+  bool StartButton(std::string* why);
+  void CancelButton();
+
+  // ---- HumbleDialog -------------------------------------------------------
+  // Script actions: fog=0/1, exploration=0/1, pbem=0/1, passwords=0/1,
+  // aibonus=0/1, ai=1,0,.. (one entry per regime from 1, 1 = the computer),
+  // email=a,b,.. (one entry per regime from 1), start, cancel.
+  std::string DialogName() const override { return "startgame"; }
+  bool IsOpen() const override { return open; }
+  bool Act(const std::string& action, const std::string& value, std::string* why) override;
+  // Start; after a refused start, cancel.
+  std::string DefaultAction() const override { return refused ? "cancel" : "start"; }
+
+ private:
+  void Mirror();
+};
+
+}  // namespace mf
