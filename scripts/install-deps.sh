@@ -5,7 +5,7 @@ set -euo pipefail
 
 PACKAGES=(
   build-essential cmake make pkg-config
-  qt6-base-dev libgl1-mesa-dev qt6-multimedia-dev
+  qt6-base-dev libgl1-mesa-dev qt6-multimedia-dev libqt6multimedia6
   libgtest-dev libgmock-dev googletest libbenchmark-dev
   nlohmann-json3-dev
   xvfb xauth

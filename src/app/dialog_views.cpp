@@ -2,6 +2,10 @@
 
 #include <map>
 
+#include "clear_dialog_view.h"
+#include "new_turn_view.h"
+#include "start_game_view.h"
+
 namespace mf::app {
 namespace {
 std::map<std::string, DialogViewFn>& Views() {
@@ -19,6 +23,9 @@ DialogViewFn FindDialogView(const std::string& name) {
 
 void RegisterAllDialogViews() {
   // Each dialog module adds its registration here.
+  RegisterClearDialogView();
+  RegisterNewTurnView();
+  RegisterStartGameView();
 }
 
 }  // namespace mf::app

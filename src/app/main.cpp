@@ -1,34 +1,20 @@
-// The windowed program: core runs the game, this file only shows it.
+// The windowed program: core runs the game, the window only shows it.
 #include <QApplication>
-#include <QCoreApplication>
-#include <QTimer>
+#include <iostream>
 
-#include "main_window.h"
-#include "model/engine_vars.h"
-#include "model/game_state.h"
-#include "model/reset.h"
-#include "model/rnd.h"
-#include "platform/paths.h"
+#include "program.h"
 
 int main(int argc, char** argv) {
   QApplication app(argc, argv);
   QApplication::setApplicationName("Marrowfield");
-  const bool smokeTest = QCoreApplication::arguments().contains("--smoke-test");
-
-  mf::SetProgramDir(QCoreApplication::applicationDirPath().toStdString());
-  mf::SeedRndFromClock();
-  mf::FillEngineVarLabels();
-  mf::SetEngineVarDefaults();
-  mf::onlyclear();
-  mf::UI.EditMode = 1;
-  mf::UI.HideEditor = true;
-  mf::setup();
-
-  mf::app::MainWindow window;
-  window.show();
-  if (smokeTest) {
-    // Proves the window comes up and the event loop runs, then leaves.
-    QTimer::singleShot(200, &app, [&] { app.exit(window.isVisible() ? 0 : 1); });
+  mf::app::ProgramOptions options;
+  QString error;
+  QStringList args = QCoreApplication::arguments();
+  args.removeFirst();
+  if (!mf::app::ParseProgramArguments(args, &options, &error)) {
+    std::cerr << "marrowfield: " << error.toStdString() << "\n"
+              << "usage: marrowfield [FILE] [--program-dir DIR] [--screenshot PNG] [--smoke-test] [--no-splash]\n";
+    return 2;
   }
-  return app.exec();
+  return mf::app::RunProgram(app, options);
 }

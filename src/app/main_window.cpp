@@ -1,17 +1,514 @@
 #include "main_window.h"
 
-#include <QStatusBar>
+#include <QActionGroup>
+#include <QApplication>
+#include <QCloseEvent>
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QMenuBar>
+#include <QScrollArea>
+#include <QVBoxLayout>
 
+#include "engine/turn_cycle.h"
+#include "files/scenario_file.h"
+#include "map_widget.h"
+#include "minimap.h"
+#include "model/clear_dialog.h"
 #include "model/game_state.h"
+#include "orders/order_state.h"
+#include "platform/platform.h"
+#include "qt_canvas.h"
+#include "qt_platform.h"
+#include "side_panel.h"
+#include "view/canvas.h"
+#include "view/keyboard.h"
+#include "view/menu_state.h"
+#include "view/panel.h"
+#include "view/selection.h"
 
 namespace mf::app {
+namespace {
 
-MainWindow::MainWindow() {
-  setWindowTitle("Marrowfield");
-  resize(1024, 768);
-  status_ = new QLabel(this);
-  status_->setText(QString("Editing  %1 x %2").arg(Game.MapW).arg(Game.MapH));
-  statusBar()->addWidget(status_);
+QString Q(const std::string& s) { return QString::fromStdString(s); }
+
+constexpr int kTickMs = 100;
+constexpr int kRightColumnW = 340;
+
+const char* const kStyle = R"(
+QMainWindow, QWidget#centre { background: #1b2028; }
+QWidget#centre QLabel { color: #dde3ea; }
+QFrame#statusBar { background: #11151b; border-bottom: 1px solid #2c3440; }
+QLabel#regimeLabel { font-size: 16px; font-weight: bold; color: #f0d890; }
+QLabel#turnLabel, QLabel#ppLabel, QLabel#modeLabel { font-size: 13px; color: #c8d0da; }
+QFrame#sidePanel { background: #222934; border: 1px solid #2f3946; border-radius: 4px; }
+QFrame#sidePanel QLabel { color: #dde3ea; }
+QLabel#landLabel, QLabel#hexCoords, QLabel#unitName, QLabel#urbanName { color: #f0d890; }
+QFrame#orderBar { background: #161b22; border-top: 1px solid #2c3440; }
+QPushButton { background: #2d3644; color: #e4e9ef; border: 1px solid #465264; border-radius: 3px;
+              padding: 3px 6px; }
+QPushButton:hover { background: #3a4557; }
+QPushButton:disabled { background: #232a34; color: #6b7584; border-color: #2f3742; }
+QPushButton#do { background: #4a3b1c; border-color: #8a6d2c; font-weight: bold; }
+QPushButton#do:disabled { background: #2a261c; color: #6b6454; border-color: #3a3426; }
+QPushButton#cancel { font-weight: bold; }
+QPushButton#nextturn { background: #2b4a2e; border-color: #4f8a55; font-weight: bold; font-size: 14px; }
+QPushButton#nextturn:disabled { background: #1f2a21; color: #5f7062; border-color: #2c3a2e; }
+QLabel#helpLine { background: #11151b; color: #f3e7c0; padding: 4px 8px; border-top: 1px solid #2c3440; }
+QListWidget#aiLog { background: #10141a; color: #b8c4d0; border: 1px solid #2c3440; }
+QScrollBar:vertical { background: #151a21; width: 14px; margin: 0; }
+QScrollBar:horizontal { background: #151a21; height: 14px; margin: 0; }
+QScrollBar::handle:vertical { background: #3c4758; min-height: 24px; border-radius: 5px; margin: 2px; }
+QScrollBar::handle:horizontal { background: #3c4758; min-width: 24px; border-radius: 5px; margin: 2px; }
+QScrollBar::handle:hover { background: #4d5a6e; }
+QScrollBar::add-line, QScrollBar::sub-line { width: 0; height: 0; }
+QScrollBar::add-page, QScrollBar::sub-page { background: none; }
+)";
+
+// Qt's keys as the key codes the game knows its keys by.
+int GameKeyCode(int qtKey) {
+  switch (qtKey) {
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+      return mf::kKeyEnter;
+    case Qt::Key_Escape:
+      return mf::kKeyEscape;
+    case Qt::Key_Space:
+      return mf::kKeySpace;
+    case Qt::Key_Left:
+      return mf::kKeyLeft;
+    case Qt::Key_Up:
+      return mf::kKeyUp;
+    case Qt::Key_Right:
+      return mf::kKeyRight;
+    case Qt::Key_Down:
+      return mf::kKeyDown;
+    case Qt::Key_F1:
+      return mf::kKeyF1;
+    case Qt::Key_F2:
+      return mf::kKeyF2;
+    case Qt::Key_F11:
+      return mf::kKeyF11;
+    case Qt::Key_F12:
+      return mf::kKeyF12;
+    default:
+      break;
+  }
+  if (qtKey >= Qt::Key_A && qtKey <= Qt::Key_Z) return 'A' + (qtKey - Qt::Key_A);
+  return 0;
+}
+
+}  // namespace
+
+const std::vector<OrderButtonDef>& OrderButtonDefs() {
+  static const std::vector<OrderButtonDef> defs = {
+      {"move", "[M]ove", "[M]ove"},
+      {"attack", "[A]ttack", "[A]ttack"},
+      {"production", "[P]roduction", "[P]roduction"},
+      {"command", "[C]ommand", "[C]hange Command"},
+      {"newunit", "[N]ew Unit", "[N]ew Unit"},
+      {"transfer", "[T]ransfer", "[T]ransfer"},
+      {"officerpool", "[O]fficers", "[O]fficerpool"},
+      {"research", "[R]esearch", "[R]esearch"},
+      {"diplomatics", "[D]iplomacy", "[D]iplomatics"},
+      {"disband", "Disband", "Disband this unit"},
+      {"entrench", "[E]ntrench", "[E]ntrench"},
+      {"load", "[L]oad", "[L]oad"},
+      {"unload", "[U]nload", "[U]nload"},
+      {"interdict", "[I]nterdict", "[I]nterdict"},
+      {"strategic", "[S]trat. bomb", "[S]trategic bombing"},
+      {"airlift", "Airli[f]t", "Airli[f]t/drop"},
+      {"airsupply", "Air sup. [Y]", "Airtransfer [Y]"},
+  };
+  return defs;
+}
+
+MainWindow::MainWindow(QtPlatform* platform) : platform_(platform) {
+  setObjectName("mainWindow");
+  setWindowTitle(mf::kProgramTitle);
+  setStyleSheet(kStyle);
+  setCentralWidget(BuildCentre());
+  BuildMenus();
+  setFocusPolicy(Qt::StrongFocus);
+
+  mf::InstallMapCanvas(&map_->canvas());
+  mf::InstallPanelHexCanvas(&panel_->hexCanvas());
+  if (platform_) platform_->SetParentWindow(this);
+
+  connect(map_, &MapWidget::Acted, this, [this] { SyncWithGame(); });
+  connect(map_, &MapWidget::HexPressed, this,
+          [this](int x, int y, int button) { Act([x, y, button] { mf::ClickMap(x, y, button); }); });
+  connect(minimap_, &Minimap::Acted, this, [this] { SyncWithGame(); });
+  connect(panel_, &SidePanel::StackSlotPressed, this,
+          [this](int slot) { Act([slot] { mf::SelectStackSlot(slot); }); });
+
+  timer_.setInterval(kTickMs);
+  connect(&timer_, &QTimer::timeout, this, [this] { Tick(); });
+  timer_.start();
+
+  resize(1280, 800);
+  RequestRedraw(2);
+  UI.PanelDirty = true;
+}
+
+MainWindow::~MainWindow() {
+  timer_.stop();
+  mf::InstallMapCanvas(nullptr);
+  mf::InstallPanelHexCanvas(nullptr);
+  if (platform_) platform_->SetParentWindow(nullptr);
+}
+
+QWidget* MainWindow::BuildCentre() {
+  auto* centre = new QWidget(this);
+  centre->setObjectName("centre");
+  auto* outer = new QVBoxLayout(centre);
+  outer->setContentsMargins(0, 0, 0, 0);
+  outer->setSpacing(0);
+
+  // The status labels: whose turn, which turn, the political points.
+  auto* status = new QFrame(centre);
+  status->setObjectName("statusBar");
+  auto* statusRow = new QHBoxLayout(status);
+  statusRow->setContentsMargins(10, 4, 10, 4);
+  statusRow->setSpacing(18);
+  regimeLabel_ = new QLabel(status);
+  regimeLabel_->setObjectName("regimeLabel");
+  turnLabel_ = new QLabel(status);
+  turnLabel_->setObjectName("turnLabel");
+  ppLabel_ = new QLabel(status);
+  ppLabel_->setObjectName("ppLabel");
+  modeLabel_ = new QLabel(status);
+  modeLabel_->setObjectName("modeLabel");
+  statusRow->addWidget(regimeLabel_);
+  statusRow->addWidget(turnLabel_);
+  statusRow->addWidget(ppLabel_);
+  statusRow->addStretch(1);
+  statusRow->addWidget(modeLabel_);
+  outer->addWidget(status);
+
+  auto* body = new QHBoxLayout();
+  body->setContentsMargins(0, 0, 0, 0);
+  body->setSpacing(0);
+
+  // Left: the map, the analysis log, the order buttons.
+  auto* left = new QVBoxLayout();
+  left->setSpacing(0);
+  map_ = new MapWidget(centre);
+  left->addWidget(map_, 1);
+  aiLog_ = new QListWidget(centre);
+  aiLog_->setObjectName("aiLog");
+  aiLog_->setMaximumHeight(120);
+  aiLog_->setFocusPolicy(Qt::NoFocus);
+  aiLog_->hide();
+  left->addWidget(aiLog_);
+
+  orderBar_ = new QFrame(centre);
+  orderBar_->setObjectName("orderBar");
+  auto* orders = new QGridLayout(orderBar_);
+  orders->setContentsMargins(6, 5, 6, 5);
+  orders->setHorizontalSpacing(4);
+  orders->setVerticalSpacing(4);
+  orderGrid_ = orders;
+  for (const auto& def : OrderButtonDefs()) {
+    auto* b = new QPushButton(def.caption, orderBar_);
+    b->setObjectName(def.name);
+    b->setToolTip(def.toolTip);
+    b->setFocusPolicy(Qt::NoFocus);
+    b->setEnabled(false);  // the orders enable them by the selection
+    b->setMinimumWidth(60);
+    buttons_[def.name] = b;
+  }
+  auto* doButton = new QPushButton(orderBar_);
+  doButton->setObjectName("do");
+  doButton->setFocusPolicy(Qt::NoFocus);
+  doButton->setEnabled(false);
+  doButton->setMinimumHeight(26);
+  buttons_["do"] = doButton;
+  auto* cancel = new QPushButton("CANCEL ORDER", orderBar_);
+  cancel->setObjectName("cancel");
+  cancel->setFocusPolicy(Qt::NoFocus);
+  cancel->setEnabled(false);
+  buttons_["cancel"] = cancel;
+  connect(cancel, &QPushButton::clicked, this, [this] { Act([] { mf::DoCancel(); }); });
+  LayOutOrderButtons(9);
+  left->addWidget(orderBar_);
+  body->addLayout(left, 1);
+
+  // Right: the minimap, the side panel, the next turn button.
+  rightColumn_ = new QWidget(centre);
+  rightColumn_->setObjectName("rightColumn");
+  rightColumn_->setFixedWidth(kRightColumnW);
+  auto* right = new QVBoxLayout(rightColumn_);
+  right->setContentsMargins(6, 6, 6, 6);
+  right->setSpacing(6);
+  minimap_ = new Minimap(rightColumn_);
+  minimap_->setFixedHeight(190);
+  right->addWidget(minimap_);
+  panel_ = new SidePanel(rightColumn_);
+  auto* scroll = new QScrollArea(rightColumn_);
+  scroll->setObjectName("panelScroll");
+  scroll->setWidget(panel_);
+  scroll->setWidgetResizable(true);
+  scroll->setFrameShape(QFrame::NoFrame);
+  scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  scroll->setFocusPolicy(Qt::NoFocus);
+  scroll->setStyleSheet("QScrollArea { background: transparent; } QScrollArea > QWidget > QWidget { background: transparent; }");
+  right->addWidget(scroll, 1);
+  auto* next = new QPushButton("Next turn", rightColumn_);
+  next->setObjectName("nextturn");
+  next->setToolTip("Next turn");
+  next->setFocusPolicy(Qt::NoFocus);
+  next->setMinimumHeight(34);
+  buttons_["nextturn"] = next;
+  connect(next, &QPushButton::clicked, this, [this] { Act([] { mf::EndTurnCommand(); }); });
+  right->addWidget(next);
+  body->addWidget(rightColumn_);
+  outer->addLayout(body, 1);
+
+  helpLine_ = new QLabel(centre);
+  helpLine_->setObjectName("helpLine");
+  helpLine_->setWordWrap(true);
+  helpLine_->setMinimumHeight(26);
+  outer->addWidget(helpLine_);
+  return centre;
+}
+
+void MainWindow::LayOutOrderButtons(int perRow) {
+  if (perRow == orderButtonsPerRow_) return;
+  orderButtonsPerRow_ = perRow;
+  const auto& defs = OrderButtonDefs();
+  const int n = static_cast<int>(defs.size());
+  for (int i = 0; i < n; ++i) orderGrid_->addWidget(buttons_[defs[i].name], i / perRow, i % perRow);
+  // The do button and "CANCEL ORDER" on the row below, two thirds and a third.
+  const int row = (n + perRow - 1) / perRow;
+  orderGrid_->addWidget(buttons_["do"], row, 0, 1, perRow - perRow / 3);
+  orderGrid_->addWidget(buttons_["cancel"], row, perRow - perRow / 3, 1, perRow / 3);
+}
+
+QAction* MainWindow::AddAction(QMenu* menu, const std::string& name, const QString& text,
+                               const std::function<void()>& command, bool checkable) {
+  QAction* a = menu->addAction(text);
+  a->setObjectName(Q(name));
+  a->setCheckable(checkable);
+  connect(a, &QAction::triggered, this, [this, command] { Act(command); });
+  actions_[name] = a;
+  return a;
+}
+
+void MainWindow::BuildMenus() {
+  QMenu* file = menuBar()->addMenu("&File");
+  AddAction(file, "newScenario", "New Scenario...", [] { mf::NewScenarioCommand(); });
+  AddAction(file, "clearMap", "Clear Map...", [] { mf::ClearMapCommand(); });
+  file->addSeparator();
+  AddAction(file, "load", "Load...", [] { mf::LoadCommand(); });
+  AddAction(file, "save", "Save...", [] { mf::SaveCommand(); });
+  AddAction(file, "import", "Import Rules...", [] { mf::ImportCommand(); });
+  file->addSeparator();
+  for (int n = 1; n <= 4; ++n) {
+    AddAction(file, "scenario" + std::to_string(n), QString("Scenario %1").arg(n), [n] { mf::LoadMenuScenario(n); });
+  }
+  file->addSeparator();
+  QAction* quit = file->addAction("Quit");
+  quit->setObjectName("quit");
+  connect(quit, &QAction::triggered, this, [this] { close(); });
+  actions_["quit"] = quit;
+
+  QMenu* game = menuBar()->addMenu("&Game");
+  AddAction(game, "start", "Start", [] { mf::StartCommand(); });
+  AddAction(game, "endTurn", "End Turn", [] { mf::EndTurnCommand(); });
+  AddAction(game, "surrender", "Surrender", [] { mf::SurrenderCommand(); });
+
+  QMenu* view = menuBar()->addMenu("&View");
+  const struct {
+    const char* name;
+    mf::DisplaySwitch which;
+  } switches[] = {{"showEnemy", mf::DisplaySwitch::kShowEnemy},
+                  {"showSight", mf::DisplaySwitch::kShowSight},
+                  {"showSupply", mf::DisplaySwitch::kShowSupply},
+                  {"showGrid", mf::DisplaySwitch::kShowGrid}};
+  for (const auto& s : switches) {
+    const mf::DisplaySwitch which = s.which;
+    QAction* a = view->addAction(Q(mf::DisplaySwitchText(which)));
+    a->setObjectName(s.name);
+    a->setCheckable(true);
+    // Only a flag and a redraw: the view may change while the computer plays.
+    connect(a, &QAction::triggered, this, [this, which] {
+      if (quitting_) return;
+      mf::ToggleDisplaySwitch(which);
+      SyncWithGame();
+    });
+    actions_[s.name] = a;
+  }
+  view->addSeparator();
+  auto* zoom1 = view->addAction("Zoom 1x");
+  auto* zoom2 = view->addAction("Zoom 2x");
+  zoom1->setObjectName("zoom1");
+  zoom2->setObjectName("zoom2");
+  zoom1->setCheckable(true);
+  zoom2->setCheckable(true);
+  zoom1->setChecked(true);
+  auto* zooms = new QActionGroup(this);
+  zooms->addAction(zoom1);
+  zooms->addAction(zoom2);
+  connect(zoom1, &QAction::triggered, this, [this] { map_->SetZoom(1); });
+  connect(zoom2, &QAction::triggered, this, [this] { map_->SetZoom(2); });
+  actions_["zoom1"] = zoom1;
+  actions_["zoom2"] = zoom2;
+
+  QMenu* edit = menuBar()->addMenu("&Edit");
+  AddAction(edit, "editor", "Editor", [] { mf::ToggleEditor(); }, true);
+}
+
+QAction* MainWindow::action(const std::string& name) const {
+  auto it = actions_.find(name);
+  return it == actions_.end() ? nullptr : it->second;
+}
+
+QPushButton* MainWindow::orderButton(const std::string& name) const {
+  auto it = buttons_.find(name);
+  return it == buttons_.end() ? nullptr : it->second;
+}
+
+void MainWindow::Act(const std::function<void()>& command) {
+  // A tick may be running the turn driver or the computer player, which
+  // yield to the event loop; the menus may not have caught up with that yet.
+  if (acting_ > 0 || ticking_ || UI.BusyPointer || quitting_) return;
+  ++acting_;
+  command();
+  --acting_;
+  SyncWithGame();
+}
+
+bool MainWindow::OpenFile(const QString& path) {
+  bool ok = false;
+  Act([&] { ok = mf::doGoLoad(path.toStdString()); });
+  return ok;
+}
+
+void MainWindow::Tick() {
+  if (ticking_ || quitting_) return;
+  ticking_ = true;
+  mf::TimerTick();
+  ticking_ = false;
+  SyncWithGame();
+}
+
+void MainWindow::ReloadPicturesIfNeeded() {
+  if (!Sprites().Stale()) return;
+  // The sprite table is scanned again after every load and import of a
+  // file: new pictures, and a map that has not been drawn yet.
+  RequestRedraw(2);
+  UI.PanelDirty = true;
+  if (Sprites().Reload()) return;
+  // A picture of the fixed set is missing: the game cannot draw its map.
+  mf::Plat().ShowMessage(Sprites().Problem().toStdString(), "");
+  QuitNow();
+}
+
+void MainWindow::ApplyMenuState() {
+  const mf::MenuState m = mf::GetMenuState();
+  const std::pair<const char*, bool> enabled[] = {
+      {"newScenario", m.newScenario}, {"clearMap", m.clearMap}, {"load", m.load},
+      {"save", m.save},               {"import", m.import},     {"scenario1", m.scenarios},
+      {"scenario2", m.scenarios},     {"scenario3", m.scenarios}, {"scenario4", m.scenarios},
+      {"quit", m.quit},               {"start", m.start},       {"endTurn", m.endTurn},
+      {"surrender", m.surrender},     {"editor", m.editor}};
+  for (const auto& [name, on] : enabled) {
+    if (QAction* a = action(name)) a->setEnabled(on);
+  }
+  const std::pair<const char*, bool> checked[] = {{"showEnemy", m.showEnemy},
+                                                  {"showSight", m.showSight},
+                                                  {"showSupply", m.showSupply},
+                                                  {"showGrid", m.showGrid},
+                                                  {"editor", m.editorChecked}};
+  for (const auto& [name, on] : checked) {
+    if (QAction* a = action(name)) a->setChecked(on);
+  }
+}
+
+void MainWindow::SyncWithGame() {
+  if (syncing_ || quitting_) return;
+  syncing_ = true;
+  ReloadPicturesIfNeeded();
+  if (quitting_) {
+    syncing_ = false;
+    return;
+  }
+
+  // The map: scroll bars, then what the game asked to be redrawn.
+  map_->SetInteractive(!UI.BusyPointer);
+  map_->SyncFromGame();
+  const bool redraw = UI.RedrawRequest > 0;
+  map_->RedrawRequested();
+  map_->SyncFromGame();
+  if (redraw) minimap_->Rebuild();
+  minimap_->update();
+
+  // The side panel for the selected hex.
+  if (UI.PanelDirty) {
+    UI.PanelDirty = false;
+    mf::Refresh(static_cast<int>(UI.SelX), static_cast<int>(UI.SelY));
+    panel_->ShowContent();
+  }
+
+  regimeLabel_->setText(Q(UI.RegimeLabel));
+  turnLabel_->setText(UI.TurnLabel.empty() ? QString() : "Turn " + Q(UI.TurnLabel));
+  ppLabel_->setText(mf::Panel.ppText.empty() ? QString() : "PP " + Q(mf::Panel.ppText));
+  modeLabel_->setText(UI.EditMode == 1 ? QString("EDITING   %1 x %2").arg(Game.MapW).arg(Game.MapH) : QString());
+  helpLine_->setText(Q(UI.HelpText));
+  setWindowTitle(UI.WindowTitle.empty() ? QString(mf::kProgramTitle) : Q(UI.WindowTitle));
+
+  map_->setVisible(true);
+  rightColumn_->setVisible(UI.PanelsShown);
+  orderBar_->setVisible(UI.MapControlsShown);
+  aiLog_->setVisible(UI.AILogShown);
+  buttons_["nextturn"]->setEnabled(UI.EditMode == 0 && Game.Turn > 0 && !UI.BusyPointer);
+  buttons_["nextturn"]->setVisible(UI.MapControlsShown);
+  if (platform_) platform_->SetBusy(UI.BusyPointer);
+  ApplyMenuState();
+  map_->view()->update();
+  syncing_ = false;
+}
+
+void MainWindow::QuitNow() {
+  if (quitting_) return;
+  quitting_ = true;
+  timer_.stop();
+  QApplication::exit(0);
+}
+
+void MainWindow::closeEvent(QCloseEvent* e) {
+  if (quitting_) {
+    e->accept();
+    return;
+  }
+  if (mf::Plat().AskYesNo("Are you sure you want to quit?", "")) {
+    quitting_ = true;
+    timer_.stop();
+    e->accept();
+    QApplication::quit();
+    return;
+  }
+  e->ignore();
+}
+
+void MainWindow::keyPressEvent(QKeyEvent* e) {
+  const int code = GameKeyCode(e->key());
+  const bool arrow = code == mf::kKeyLeft || code == mf::kKeyRight || code == mf::kKeyUp || code == mf::kKeyDown;
+  // A held key repeats only for scrolling; a held F1 must not flicker the sound.
+  if (code == 0 || (e->isAutoRepeat() && !arrow)) {
+    QMainWindow::keyPressEvent(e);
+    return;
+  }
+  Act([code] { mf::KeyDown(code); });
+  e->accept();
+}
+
+void MainWindow::resizeEvent(QResizeEvent* e) {
+  QMainWindow::resizeEvent(e);
+  UI.WindowWidth = width();
+  // Narrow windows get the order buttons in three rows, so every caption fits.
+  LayOutOrderButtons(width() < 1200 ? 6 : 9);
 }
 
 }  // namespace mf::app

@@ -1,17 +1,98 @@
+// The main window of the game: menus, the map with its scroll bars, the
+// minimap, the side panel, the order buttons, the help line and the status
+// labels. Core decides what is shown through the UI fields; after every
+// action of the player and every timer tick the window brings itself in line
+// with them (SyncWithGame).
 #pragma once
 
+#include <QAction>
+#include <QGridLayout>
 #include <QLabel>
+#include <QListWidget>
 #include <QMainWindow>
+#include <QPushButton>
+#include <QTimer>
+#include <functional>
+#include <map>
+#include <string>
 
 namespace mf::app {
+
+class MapWidget;
+class Minimap;
+class SidePanel;
+class QtPlatform;
+
+// The order buttons of the map window, by the names scripts press them with,
+// with the short caption on the button and the tool tip the rules give it.
+struct OrderButtonDef {
+  const char* name;
+  const char* caption;
+  const char* toolTip;
+};
+const std::vector<OrderButtonDef>& OrderButtonDefs();
 
 class MainWindow : public QMainWindow {
   Q_OBJECT
  public:
-  MainWindow();
+  explicit MainWindow(QtPlatform* platform);
+  ~MainWindow() override;
+
+  // Brings every part of the window in line with the UI fields.
+  void SyncWithGame();
+  // Loads a scenario or saved game as the Load command does after its file
+  // dialog (doGoLoad), and shows it.
+  bool OpenFile(const QString& path);
+  // Runs a command of the game and syncs; ignored while another command of
+  // the player or a timer tick is still running (the game yields to the
+  // event loop now and then) and while the game is busy (UI.BusyPointer).
+  void Act(const std::function<void()>& command);
+  // Quits without the question (screenshots, tests).
+  void QuitNow();
+
+  MapWidget* mapWidget() const { return map_; }
+  Minimap* minimap() const { return minimap_; }
+  SidePanel* sidePanel() const { return panel_; }
+  QAction* action(const std::string& name) const;
+  QPushButton* orderButton(const std::string& name) const;
+  QTimer& timer() { return timer_; }
+
+ protected:
+  void closeEvent(QCloseEvent* e) override;
+  void keyPressEvent(QKeyEvent* e) override;
+  void resizeEvent(QResizeEvent* e) override;
 
  private:
-  QLabel* status_ = nullptr;
+  void BuildMenus();
+  QWidget* BuildCentre();
+  QAction* AddAction(QMenu* menu, const std::string& name, const QString& text,
+                     const std::function<void()>& command, bool checkable = false);
+  void LayOutOrderButtons(int perRow);
+  void Tick();
+  void ReloadPicturesIfNeeded();
+  void ApplyMenuState();
+
+  QtPlatform* platform_;
+  MapWidget* map_ = nullptr;
+  Minimap* minimap_ = nullptr;
+  SidePanel* panel_ = nullptr;
+  QWidget* rightColumn_ = nullptr;
+  QWidget* orderBar_ = nullptr;
+  QGridLayout* orderGrid_ = nullptr;
+  int orderButtonsPerRow_ = 0;
+  QListWidget* aiLog_ = nullptr;
+  QLabel* regimeLabel_ = nullptr;
+  QLabel* turnLabel_ = nullptr;
+  QLabel* ppLabel_ = nullptr;
+  QLabel* modeLabel_ = nullptr;
+  QLabel* helpLine_ = nullptr;
+  std::map<std::string, QAction*> actions_;
+  std::map<std::string, QPushButton*> buttons_;
+  QTimer timer_;
+  int acting_ = 0;
+  bool ticking_ = false;
+  bool syncing_ = false;
+  bool quitting_ = false;
 };
 
 }  // namespace mf::app

@@ -274,6 +274,9 @@ struct UIRec {
   bool ShowScrollX = false, ShowScrollY = false;
   bool ShowEditorPanel = false;
   Long WindowWidth = 1024;   // width of the main window in pixels, set by the window
+  // The visible part of the map picture, in picture units: the classic map
+  // window is 958 x 448; the window sets its real size here before setup.
+  Long ViewW = 958, ViewH = 448;
 
   // Lines the main window shows.
   std::string HelpText;
@@ -289,6 +292,7 @@ struct UIRec {
   Long RedrawRequest = 0;        // 0 nothing, 1 the 31 x 31 square around the selection, 2 the whole map
   bool PanelDirty = false;       // the side panel must be rebuilt for the selected hex
   std::string WindowTitle;       // "" shows the program's name
+  bool AILogShown = false;       // F11: the computer player's analysis log under the map
 };
 
 

@@ -103,7 +103,11 @@ PixelXY HexToPixel(int x, int y, int scrollX, int scrollY) {
   return c;
 }
 
-bool HexOffWindow(PixelXY c) { return c.x < -42 || c.y < -40 || c.x > 1000 || c.y > 488; }
+// The classic map window of 958 x 448 culls centres beyond 1000 and 488; a
+// larger window shows more of the map and culls further out.
+bool HexOffWindow(PixelXY c) {
+  return c.x < -42 || c.y < -40 || c.x > UI.ViewW + 42 || c.y > UI.ViewH + 40;
+}
 
 HexXY PixelToHex(int pxWindow, int pyWindow, int scrollX, int scrollY) {
   const std::int64_t px = static_cast<std::int64_t>(pxWindow) + scrollX;

@@ -28,7 +28,7 @@ constexpr int kHexColumnW = 42;
 constexpr int kHexRowH = 30;
 constexpr int kHexPicW = 43;
 constexpr int kHexPicH = 41;
-constexpr int kViewSlackW = 958;   // the map window is the picture less these
+constexpr int kViewSlackW = 958;   // the classic map window; UI.ViewW, UI.ViewH hold the real one
 constexpr int kViewSlackH = 448;
 
 // Centre of a hex on the window, given the scroll positions.

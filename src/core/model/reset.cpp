@@ -30,9 +30,9 @@ void setup() {
   UI.PictureW = MapPictureW();
   UI.PictureH = MapPictureH();
 
-  UI.ScrollMaxX = UI.PictureW - kViewSlackW;
+  UI.ScrollMaxX = UI.PictureW - UI.ViewW;
   if (UI.ScrollMaxX < 0) UI.ScrollMaxX = 0;
-  UI.ScrollMaxY = UI.PictureH - kViewSlackH;
+  UI.ScrollMaxY = UI.PictureH - UI.ViewH;
   if (UI.ScrollMaxY < 0) UI.ScrollMaxY = 0;
   UI.ShowScrollX = UI.ScrollMaxX > 0;
   UI.ShowScrollY = UI.ScrollMaxY > 0;

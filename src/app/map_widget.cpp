@@ -1,0 +1,202 @@
+#include "map_widget.h"
+
+#include <QGridLayout>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QPainterPath>
+
+#include "model/game_state.h"
+#include "model/hex_geometry.h"
+#include "model/reset.h"
+#include "view/draw_hex.h"
+#include "view/selection.h"
+
+namespace mf::app {
+namespace {
+
+// The picture reaches a hex beyond the view on the right and below, so hexes
+// cut by the view's edge are whole.
+constexpr int kCanvasMarginW = 2 * kHexPicW;
+constexpr int kCanvasMarginH = 2 * kHexPicH;
+const QColor kMapBackground(24, 28, 34);
+
+}  // namespace
+
+MapWidget::MapWidget(QWidget* parent)
+    : QWidget(parent), canvas_(kViewSlackW + kCanvasMarginW, kViewSlackH + kCanvasMarginH, kMapBackground) {
+  view_ = new MapView(this);
+  hbar_ = new QScrollBar(Qt::Horizontal, this);
+  vbar_ = new QScrollBar(Qt::Vertical, this);
+  hbar_->setObjectName("mapScrollX");
+  vbar_->setObjectName("mapScrollY");
+  // A bar that hides keeps its place, so the view does not change size (and
+  // ask for another layout) when a map comes in that needs no scrolling.
+  for (QScrollBar* bar : {hbar_, vbar_}) {
+    QSizePolicy sp = bar->sizePolicy();
+    sp.setRetainSizeWhenHidden(true);
+    bar->setSizePolicy(sp);
+  }
+  auto* grid = new QGridLayout(this);
+  grid->setContentsMargins(0, 0, 0, 0);
+  grid->setSpacing(0);
+  grid->addWidget(view_, 0, 0);
+  grid->addWidget(vbar_, 0, 1);
+  grid->addWidget(hbar_, 1, 0);
+
+  connect(hbar_, &QScrollBar::valueChanged, this,
+          [this](int v) { ScrollMoved(Qt::Horizontal, v, hbar_->isSliderDown()); });
+  connect(vbar_, &QScrollBar::valueChanged, this,
+          [this](int v) { ScrollMoved(Qt::Vertical, v, vbar_->isSliderDown()); });
+  connect(hbar_, &QScrollBar::sliderReleased, this, [this] { ScrollReleased(); });
+  connect(vbar_, &QScrollBar::sliderReleased, this, [this] { ScrollReleased(); });
+  setFocusPolicy(Qt::NoFocus);
+}
+
+void MapWidget::SetZoom(int zoom) {
+  if (zoom != 1 && zoom != 2) return;
+  if (zoom == zoom_) return;
+  zoom_ = zoom;
+  ViewResized();
+}
+
+void MapWidget::ViewResized() {
+  const int w = view_->width() / zoom_;
+  const int h = view_->height() / zoom_;
+  if (w < 1 || h < 1) return;
+  if (w == UI.ViewW && h == UI.ViewH && canvas_.image().width() == w + kCanvasMarginW) return;
+  UI.ViewW = w;
+  UI.ViewH = h;
+  canvas_.Resize(w + kCanvasMarginW, h + kCanvasMarginH);
+  UI.WindowWidth = window() ? window()->width() : UI.WindowWidth;
+  setup();
+  RequestRedraw(2);
+  // The window syncs (and draws) once the resize is over, never in the
+  // middle of Qt laying out or showing its widgets.
+  if (!syncQueued_) {
+    syncQueued_ = true;
+    QMetaObject::invokeMethod(
+        this,
+        [this] {
+          syncQueued_ = false;
+          emit Acted();
+        },
+        Qt::QueuedConnection);
+  }
+}
+
+void MapWidget::SyncFromGame() {
+  syncing_ = true;
+  hbar_->setRange(0, static_cast<int>(UI.ScrollMaxX));
+  vbar_->setRange(0, static_cast<int>(UI.ScrollMaxY));
+  hbar_->setPageStep(static_cast<int>(UI.ScrollLargeX));
+  vbar_->setPageStep(static_cast<int>(UI.ScrollLargeY));
+  hbar_->setSingleStep(static_cast<int>(UI.ScrollSmall > 0 ? UI.ScrollSmall : 100));
+  vbar_->setSingleStep(static_cast<int>(UI.ScrollSmall > 0 ? UI.ScrollSmall : 100));
+  if (!hbar_->isSliderDown()) hbar_->setValue(static_cast<int>(UI.ScrollX));
+  if (!vbar_->isSliderDown()) vbar_->setValue(static_cast<int>(UI.ScrollY));
+  hbar_->setVisible(UI.ShowScrollX);
+  vbar_->setVisible(UI.ShowScrollY);
+  syncing_ = false;
+}
+
+void MapWidget::RedrawRequested() {
+  const Long what = UI.RedrawRequest;
+  // Cleared first: drawing lets the event loop run, and a request made in
+  // the meantime must survive for the next round.
+  UI.RedrawRequest = 0;
+  if (what >= 2)
+    DoDrawhex();
+  else if (what == 1)
+    DoDrawhex6();
+  if (what >= 1) {
+    drawnScrollX_ = UI.ScrollX;
+    drawnScrollY_ = UI.ScrollY;
+  }
+  canvas_.End();
+  view_->update();
+}
+
+QPoint MapWidget::HexCentreOnView(int x, int y) const {
+  const PixelXY c = HexToPixel(x, y, static_cast<int>(UI.ScrollX), static_cast<int>(UI.ScrollY));
+  return QPoint(c.x * zoom_, c.y * zoom_);
+}
+
+void MapWidget::Pressed(QPoint pos, Qt::MouseButton button) {
+  if (!interactive_ || !UI.MapShown) return;
+  if (button != Qt::LeftButton && button != Qt::RightButton) return;
+  const HexXY h = PixelToHex(pos.x() / zoom_, pos.y() / zoom_, static_cast<int>(UI.ScrollX),
+                             static_cast<int>(UI.ScrollY));
+  emit HexPressed(h.x, h.y, button == Qt::LeftButton ? kLeftButton : kRightButton);
+}
+
+void MapWidget::ScrollMoved(Qt::Orientation o, int value, bool dragging) {
+  if (syncing_) return;
+  Long& pos = o == Qt::Horizontal ? UI.ScrollX : UI.ScrollY;
+  if (pos == value) return;
+  pos = value;
+  if (dragging) {
+    // While the thumb is held only the place is noted; the map follows when
+    // the button goes up, as a full redraw per pixel would be too slow.
+    UI.ScrollPending = 1;
+    view_->update();
+    return;
+  }
+  RequestRedraw(2);
+  emit Acted();
+}
+
+void MapWidget::ScrollReleased() {
+  if (UI.ScrollPending == 0) return;
+  UI.ScrollPending = 0;
+  RequestRedraw(2);
+  emit Acted();
+}
+
+MapView::MapView(MapWidget* owner) : QWidget(owner), owner_(owner) {
+  setObjectName("mapView");
+  setMinimumSize(320, 240);
+  setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+  setAttribute(Qt::WA_OpaquePaintEvent);
+  setMouseTracking(false);
+}
+
+void MapView::paintEvent(QPaintEvent*) {
+  QPainter p(this);
+  const int z = owner_->zoom_;
+  if (!UI.MapShown) {
+    p.fillRect(rect(), kMapBackground);
+    return;
+  }
+  const QImage& img = owner_->canvas_.image();
+  const QRect source(0, 0, width() / z + 1, height() / z + 1);
+  const int dx = static_cast<int>(owner_->drawnScrollX_ - UI.ScrollX) * z;
+  const int dy = static_cast<int>(owner_->drawnScrollY_ - UI.ScrollY) * z;
+  if (dx != 0 || dy != 0) p.fillRect(rect(), kMapBackground);
+  p.drawImage(QRect(dx, dy, source.width() * z, source.height() * z), img, source);
+
+  // The selected hex: an outline over the picture, so that selecting never
+  // needs the hexes repainted just for the highlight.
+  if (ValidHex(static_cast<int>(UI.SelX), static_cast<int>(UI.SelY))) {
+    const QPoint c = owner_->HexCentreOnView(static_cast<int>(UI.SelX), static_cast<int>(UI.SelY));
+    const int cx = c.x(), cy = c.y();
+    QPainterPath path;
+    path.moveTo(cx - 21 * z, cy - 10 * z);
+    path.lineTo(cx - 21 * z, cy + 10 * z);
+    path.lineTo(cx, cy + 20 * z);
+    path.lineTo(cx + 21 * z, cy + 10 * z);
+    path.lineTo(cx + 21 * z, cy - 10 * z);
+    path.lineTo(cx, cy - 20 * z);
+    path.closeSubpath();
+    p.setRenderHint(QPainter::Antialiasing, true);
+    p.setPen(QPen(QColor(0, 0, 0, 160), 4 * z));
+    p.drawPath(path);
+    p.setPen(QPen(QColor(255, 230, 90), 2 * z));
+    p.drawPath(path);
+  }
+}
+
+void MapView::resizeEvent(QResizeEvent*) { owner_->ViewResized(); }
+
+void MapView::mousePressEvent(QMouseEvent* e) { owner_->Pressed(e->position().toPoint(), e->button()); }
+
+}  // namespace mf::app

@@ -1,0 +1,77 @@
+// The map window: the picture that the game's drawing paints, with its two
+// scroll bars, the outline of the selected hex, and presses turned into hexes.
+#pragma once
+
+#include <QScrollBar>
+#include <QWidget>
+
+#include "qt_canvas.h"
+
+namespace mf::app {
+
+class MapView;
+
+class MapWidget : public QWidget {
+  Q_OBJECT
+ public:
+  explicit MapWidget(QWidget* parent = nullptr);
+
+  // 1 or 2: every picture unit shows as zoom x zoom pixels.
+  void SetZoom(int zoom);
+  int Zoom() const { return zoom_; }
+  // Puts the bars in line with the UI scroll fields and the picture with the
+  // size of the view; called by the window whenever it syncs.
+  void SyncFromGame();
+  // Redraws what the game asked for (UI.RedrawRequest) and shows it.
+  void RedrawRequested();
+  // Whether presses reach the game (off while the game is busy).
+  void SetInteractive(bool on) { interactive_ = on; }
+  MapView* view() const { return view_; }
+  ImageCanvas& canvas() { return canvas_; }
+  // The window point (in the view's pixels) of the centre of hex (x, y).
+  QPoint HexCentreOnView(int x, int y) const;
+
+ signals:
+  // The player did something on the map (scrolling); the window syncs.
+  void Acted();
+  // A press of a mouse button on hex (x, y) (zeros off the map), with the
+  // game's button number; the window runs it as a command of the player.
+  void HexPressed(int x, int y, int button);
+
+ private:
+  friend class MapView;
+  void ViewResized();
+  void Pressed(QPoint pos, Qt::MouseButton button);
+  void ScrollMoved(Qt::Orientation o, int value, bool dragging);
+  void ScrollReleased();
+
+  MapView* view_ = nullptr;
+  QScrollBar* hbar_ = nullptr;
+  QScrollBar* vbar_ = nullptr;
+  ImageCanvas canvas_;
+  int zoom_ = 1;
+  // The scroll place the picture was drawn for; while a scroll thumb is
+  // dragged the old picture is shown shifted by the difference.
+  long drawnScrollX_ = 0;
+  long drawnScrollY_ = 0;
+  bool syncing_ = false;
+  bool syncQueued_ = false;
+  bool interactive_ = true;
+};
+
+// The picture itself.
+class MapView : public QWidget {
+  Q_OBJECT
+ public:
+  explicit MapView(MapWidget* owner);
+
+ protected:
+  void paintEvent(QPaintEvent*) override;
+  void resizeEvent(QResizeEvent*) override;
+  void mousePressEvent(QMouseEvent*) override;
+
+ private:
+  MapWidget* owner_;
+};
+
+}  // namespace mf::app

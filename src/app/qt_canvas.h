@@ -1,0 +1,68 @@
+// The game's pictures as Qt pixmaps, and the canvas the map is painted on.
+#pragma once
+
+#include <QColor>
+#include <QImage>
+#include <QPainter>
+#include <QPixmap>
+#include <QString>
+#include <memory>
+#include <vector>
+
+#include "view/canvas.h"
+
+namespace mf::app {
+
+// Every sprite the last LoadSprites found, converted once into a pixmap
+// (white see-through where the sprite table says so). Drawing never touches
+// the disk.
+class SpriteStore {
+ public:
+  // Loads every present sprite by the paths of the sprite table. False when a
+  // picture of a fixed range is missing or unreadable; Problem() then says
+  // which file in which folder.
+  bool Reload();
+  // True when the sprite table has been loaded again since the last Reload.
+  bool Stale() const;
+  const QPixmap& Get(int n) const;
+  // The picture as an image, for reading colours (minimap, tests).
+  QImage Image(int n) const;
+  const QString& Problem() const { return problem_; }
+  int Loaded() const { return loaded_; }
+
+ private:
+  std::vector<QPixmap> pixmaps_;
+  QPixmap empty_;
+  QString problem_;
+  long loadCount_ = -1;
+  int loaded_ = 0;
+};
+
+SpriteStore& Sprites();
+
+// The game's colour number 0x00BBGGRR as a Qt colour.
+QColor GameColour(mf::Colour colour);
+
+// A canvas painting onto an image. The painter stays open between calls;
+// End() closes it before the image is shown.
+class ImageCanvas : public mf::Canvas {
+ public:
+  ImageCanvas(int w, int h, QColor background);
+  void Resize(int w, int h);
+  void End();
+  const QImage& image() const { return image_; }
+  QImage& image() { return image_; }
+
+  void Clear() override;
+  void Blit(int sprite, int left, int top) override;
+  void Line(int x1, int y1, int x2, int y2, mf::Colour colour) override;
+  void Text(const std::string& text, int x, int y, const std::string& font, int size, mf::Colour colour) override;
+
+ private:
+  QPainter& P();
+  QImage image_;
+  QColor background_;
+  std::unique_ptr<QPainter> painter_;
+};
+
+}  // namespace mf::app
