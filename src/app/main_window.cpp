@@ -372,7 +372,7 @@ QPushButton* MainWindow::orderButton(const std::string& name) const {
 void MainWindow::Act(const std::function<void()>& command) {
   // A tick may be running the turn driver or the computer player, which
   // yield to the event loop; the menus may not have caught up with that yet.
-  if (acting_ > 0 || ticking_ || UI.BusyPointer || quitting_) return;
+  if (acting_ > 0 || tickDepth_ > 0 || UI.BusyPointer || quitting_) return;
   ++acting_;
   command();
   --acting_;
@@ -386,10 +386,14 @@ bool MainWindow::OpenFile(const QString& path) {
 }
 
 void MainWindow::Tick() {
-  if (ticking_ || quitting_) return;
-  ticking_ = true;
+  // The timer keeps ticking while a modal dialog that a tick opened waits,
+  // such as a human's New Turn dialog right after a computer turn ended on a
+  // tick. Core's tick may be entered again: the driver marks itself busy
+  // while it works, and a human's turn is never ended by the timer.
+  if (quitting_) return;
+  ++tickDepth_;
   mf::TimerTick();
-  ticking_ = false;
+  --tickDepth_;
   SyncWithGame();
 }
 

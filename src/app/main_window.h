@@ -90,7 +90,7 @@ class MainWindow : public QMainWindow {
   std::map<std::string, QPushButton*> buttons_;
   QTimer timer_;
   int acting_ = 0;
-  bool ticking_ = false;
+  int tickDepth_ = 0;  // ticks under way, nested while a tick's dialog waits
   bool syncing_ = false;
   bool quitting_ = false;
 };

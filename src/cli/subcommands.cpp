@@ -3,6 +3,7 @@
 #include <filesystem>
 #include <ostream>
 
+#include "compile_content.h"
 #include "files/json_io.h"
 #include "files/scenario_file.h"
 #include "files/scenario_schema.h"
@@ -26,7 +27,8 @@ constexpr const char* kUsage =
     "  unscramble FILE              makes a scrambled scenario file plain in place\n"
     "  run SCRIPT                   runs a script (see docs/cli.md)\n"
     "  play FILE --turns N [--seed S] [-o OUT]\n"
-    "  random ... -o FILE\n";
+    "  random ... -o FILE\n"
+    "  compile SOURCE -o FILE       a scenario from its readable source (see docs/content-format.md)\n";
 
 // Splits the words into positional ones and "-o FILE"; false with a reason
 // for an option it does not know or a missing value.
@@ -261,6 +263,7 @@ int CliMain(const Args& argv, std::ostream& out, std::ostream& err) {
   if (cmd == "run") return RunCommand(args, out, err);
   if (cmd == "play") return PlayCommand(args, out, err);
   if (cmd == "random") return RandomCommand(args, out, err);
+  if (cmd == "compile") return CompileCommand(args, out, err);
   if (cmd == "help" || cmd == "--help" || cmd == "-h") {
     out << kUsage;
     return 0;

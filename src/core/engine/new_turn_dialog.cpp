@@ -163,12 +163,10 @@ bool NewTurnDialog::SavePbemButton(const std::string& path, std::string* why) {
   }
   // The save of the menu, with the path given when a script names it.
   const std::string file = path.empty() ? Plat().SaveFileDialog("Save", ScenarioFilter(), ScenariosDir()) : path;
-  if (file.empty() || !WriteFile(file)) {
-    Plat().ShowMessage("Save canceled", "File I/O");
+  if (!SaveToPath(file)) {
     *why = "Save canceled";
     return false;
   }
-  Plat().ShowMessage("Saved", "File I/O");
   leave = true;
   open = false;
   return true;

@@ -1,5 +1,7 @@
 #include "engine/turn_cycle.h"
 
+#include "view/draw_hex.h"
+
 #include <algorithm>
 #include <cctype>
 #include <cstdint>
@@ -336,6 +338,7 @@ void NextTurn() {
   SightPass();
   RequestRedraw(2);
   UI.PanelDirty = true;
+  if (ValidHex(UI.SelX, UI.SelY)) CenterMap(UI.SelX, UI.SelY);
   SetBusyPointer(false);
 }
 

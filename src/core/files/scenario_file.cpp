@@ -506,14 +506,16 @@ std::string ScenarioFilter() {
 
 std::string ImportFilter() { return "Marrowfield (.mf1) files|*.mf1;*.ico"; }
 
-void SaveCommand() {
-  const std::string path = Plat().SaveFileDialog("Save", ScenarioFilter(), ScenariosDir());
+bool SaveToPath(const std::string& path) {
   if (path.empty() || !WriteFile(path)) {
     Plat().ShowMessage("Save canceled", "File I/O");
-    return;
+    return false;
   }
   Plat().ShowMessage("Saved", "File I/O");
+  return true;
 }
+
+bool SaveCommand() { return SaveToPath(Plat().SaveFileDialog("Save", ScenarioFilter(), ScenariosDir())); }
 
 void LoadCommand() {
   const std::string path = Plat().OpenFileDialog("Load", ScenarioFilter(), ScenariosDir());
@@ -540,10 +542,15 @@ void LoadCommand() {
     Game.FogOfWar = 1;
     UI.EditMode = 0;
     UI.ShowEditorPanel = false;
+    UI.PanelsShown = true;
+    UI.MapControlsShown = false;
+    UI.BusyPointer = true;
     Plat().SetBusy(true);
     NextTurn();
-    Plat().SetBusy(false);
+    return;
   }
+  UI.MapControlsShown = true;
+  UI.PanelsShown = true;
 }
 
 void ImportCommand() {

@@ -33,7 +33,10 @@ bool ImportFile(const std::string& path);
 
 // The menu commands: they ask the platform for a path, then run the flow
 // with its messages ("Saved", "Save canceled", "Load canceled", ...).
-void SaveCommand();
+bool SaveCommand();
+// The save of the menu once a path is known: "Saved", or "Save canceled"
+// for an empty path or a failed write. True when the file was written.
+bool SaveToPath(const std::string& path);
 void LoadCommand();
 void ImportCommand();
 // The four fixed menu entries "scenario1" .. "scenario4".
