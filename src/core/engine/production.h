@@ -12,5 +12,7 @@ void TownOutput(int x, int y);
 // the land and sea types waiting in its stock. Called by the next-turn driver
 // after the hex loop.
 void PoolTransport();
+// Opens the Urban Production dialog for the selected hex.
+void UrbanProduction();
 
 }  // namespace mf

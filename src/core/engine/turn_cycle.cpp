@@ -20,6 +20,7 @@
 #include "model/arith.h"
 #include "model/game_state.h"
 #include "model/reset.h"
+#include "orders/flood.h"
 #include "orders/movement.h"
 #include "orders/new_units.h"
 #include "orders/sight.h"

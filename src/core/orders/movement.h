@@ -7,8 +7,5 @@ namespace mf {
 // enemy land that no unit of its owner holds or guards change hands, one
 // ring a turn. Called by the next-turn driver before supply.
 void HexCapture();
-// Resets the flood planes: Hex.Mark to 999 (out of reach) and the route
-// tables to 0 on the whole map.
-void ClearFlood();
 
 }  // namespace mf

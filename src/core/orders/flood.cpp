@@ -1,0 +1,23 @@
+#include "orders/flood.h"
+
+#include "model/game_state.h"
+
+namespace mf {
+
+void ClearFlood() {
+  const int w = Game.MapW < kMapCap ? Game.MapW : kMapCap;
+  const int h = Game.MapH < kMapCap ? Game.MapH : kMapCap;
+  for (int x = 1; x <= w; ++x) {
+    for (int y = 1; y <= h; ++y) {
+      HexRec& hex = Hex[x][y];
+      hex.Mark = 999;
+      hex.PathSea = 0;
+      hex.PathLand = 0;
+      hex.PathPortX = 0;
+      hex.PathPortY = 0;
+      hex.ScratchRecon = 0;
+    }
+  }
+}
+
+}  // namespace mf
