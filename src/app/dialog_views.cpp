@@ -3,8 +3,11 @@
 #include <map>
 
 #include "clear_dialog_view.h"
+#include "diplomatics_view.h"
 #include "new_turn_view.h"
+#include "research_view.h"
 #include "start_game_view.h"
+#include "urban_production_view.h"
 
 namespace mf::app {
 namespace {
@@ -24,8 +27,11 @@ DialogViewFn FindDialogView(const std::string& name) {
 void RegisterAllDialogViews() {
   // Each dialog module adds its registration here.
   RegisterClearDialogView();
+  RegisterDiplomaticsView();
   RegisterNewTurnView();
+  RegisterResearchView();
   RegisterStartGameView();
+  RegisterUrbanProductionView();
 }
 
 }  // namespace mf::app

@@ -3,6 +3,8 @@
 #include <QActionGroup>
 #include <QApplication>
 #include <QCloseEvent>
+#include <QEvent>
+#include <QMouseEvent>
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QKeyEvent>
@@ -16,6 +18,7 @@
 #include "minimap.h"
 #include "model/clear_dialog.h"
 #include "model/game_state.h"
+#include "model/hex_geometry.h"
 #include "orders/order_state.h"
 #include "platform/platform.h"
 #include "qt_canvas.h"
@@ -54,6 +57,7 @@ QPushButton#do:disabled { background: #2a261c; color: #6b6454; border-color: #3a
 QPushButton#cancel { font-weight: bold; }
 QPushButton#nextturn { background: #2b4a2e; border-color: #4f8a55; font-weight: bold; font-size: 14px; }
 QPushButton#nextturn:disabled { background: #1f2a21; color: #5f7062; border-color: #2c3a2e; }
+QLabel#orderLine { font-size: 13px; font-weight: bold; color: #f0d890; }
 QLabel#helpLine { background: #11151b; color: #f3e7c0; padding: 4px 8px; border-top: 1px solid #2c3440; }
 QListWidget#aiLog { background: #10141a; color: #b8c4d0; border: 1px solid #2c3440; }
 QScrollBar:vertical { background: #151a21; width: 14px; margin: 0; }
@@ -139,8 +143,17 @@ MainWindow::MainWindow(QtPlatform* platform) : platform_(platform) {
   connect(map_, &MapWidget::HexPressed, this,
           [this](int x, int y, int button) { Act([x, y, button] { mf::ClickMap(x, y, button); }); });
   connect(minimap_, &Minimap::Acted, this, [this] { SyncWithGame(); });
+  // A press on a formation's picture in the panel selects it, and while an
+  // attack is being prepared joins it to the attack or takes it out again.
   connect(panel_, &SidePanel::StackSlotPressed, this,
-          [this](int slot) { Act([slot] { mf::SelectStackSlot(slot); }); });
+          [this](int slot) { Act([slot] { mf::PanelPress(slot); }); });
+  if (QLabel* big = panel_->findChild<QLabel*>("bigPicture")) {
+    bigPicture_ = big;
+    big->installEventFilter(this);
+  }
+  // The move-cost line follows the mouse over the map while a move is under way.
+  map_->view()->setMouseTracking(true);
+  map_->view()->installEventFilter(this);
 
   timer_.setInterval(kTickMs);
   connect(&timer_, &QTimer::timeout, this, [this] { Tick(); });
@@ -183,6 +196,10 @@ QWidget* MainWindow::BuildCentre() {
   statusRow->addWidget(turnLabel_);
   statusRow->addWidget(ppLabel_);
   statusRow->addStretch(1);
+  orderLine_ = new QLabel(status);
+  orderLine_->setObjectName("orderLine");
+  orderLine_->hide();
+  statusRow->addWidget(orderLine_);
   statusRow->addWidget(modeLabel_);
   outer->addWidget(status);
 
@@ -217,6 +234,8 @@ QWidget* MainWindow::BuildCentre() {
     b->setEnabled(false);  // the orders enable them by the selection
     b->setMinimumWidth(60);
     buttons_[def.name] = b;
+    const int id = mf::OrderButtonByName(def.name);
+    connect(b, &QPushButton::clicked, this, [this, id] { Act([id] { mf::PressOrderButton(id); }); });
   }
   auto* doButton = new QPushButton(orderBar_);
   doButton->setObjectName("do");
@@ -224,6 +243,7 @@ QWidget* MainWindow::BuildCentre() {
   doButton->setEnabled(false);
   doButton->setMinimumHeight(26);
   buttons_["do"] = doButton;
+  connect(doButton, &QPushButton::clicked, this, [this] { Act([] { mf::DoButton(); }); });
   auto* cancel = new QPushButton("CANCEL ORDER", orderBar_);
   cancel->setObjectName("cancel");
   cancel->setFocusPolicy(Qt::NoFocus);
@@ -260,7 +280,7 @@ QWidget* MainWindow::BuildCentre() {
   next->setFocusPolicy(Qt::NoFocus);
   next->setMinimumHeight(34);
   buttons_["nextturn"] = next;
-  connect(next, &QPushButton::clicked, this, [this] { Act([] { mf::EndTurnCommand(); }); });
+  connect(next, &QPushButton::clicked, this, [this] { Act([] { mf::NextTurnButton(); }); });
   right->addWidget(next);
   body->addWidget(rightColumn_);
   outer->addLayout(body, 1);
@@ -466,12 +486,59 @@ void MainWindow::SyncWithGame() {
   rightColumn_->setVisible(UI.PanelsShown);
   orderBar_->setVisible(UI.MapControlsShown);
   aiLog_->setVisible(UI.AILogShown);
-  buttons_["nextturn"]->setEnabled(UI.EditMode == 0 && Game.Turn > 0 && !UI.BusyPointer);
+  ApplyButtons();
   buttons_["nextturn"]->setVisible(UI.MapControlsShown);
   if (platform_) platform_->SetBusy(UI.BusyPointer);
   ApplyMenuState();
   map_->view()->update();
   syncing_ = false;
+}
+
+void MainWindow::ApplyButtons() {
+  // The buttons follow the selection as the order machine sees it; while an
+  // order is under way it leaves them as the order set them.
+  mf::RefreshButtons();
+  const mf::ButtonState& b = mf::Buttons;
+  for (const auto& def : OrderButtonDefs()) {
+    const int id = mf::OrderButtonByName(def.name);
+    if (id < 0) continue;
+    QPushButton* button = buttons_[def.name];
+    button->setEnabled(b.order[id].enabled && !UI.BusyPointer);
+    if (!b.order[id].caption.empty()) button->setToolTip(Q(b.order[id].caption));
+  }
+  buttons_["do"]->setText(Q(b.doButton.caption));
+  buttons_["do"]->setEnabled(b.doButton.enabled && !UI.BusyPointer);
+  buttons_["cancel"]->setEnabled(b.cancel.enabled && !UI.BusyPointer);
+  QPushButton* next = buttons_["nextturn"];
+  // During the computer's turn the button shows how far it has got.
+  next->setText(Q(b.nextTurn.caption));
+  next->setEnabled(b.nextTurn.enabled && !UI.BusyPointer);
+  ShowOrderLine();
+}
+
+void MainWindow::ShowOrderLine() {
+  orderLine_->setText(Q(mf::Buttons.orderLine));
+  orderLine_->setVisible(mf::Buttons.orderLineShown && UI.MapControlsShown);
+}
+
+bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
+  if (watched == map_->view() && event->type() == QEvent::MouseMove) {
+    if (UI.Order.SelOrderMove > 0 && !UI.BusyPointer && !quitting_) {
+      const QPoint pos = static_cast<QMouseEvent*>(event)->position().toPoint();
+      const int zoom = map_->Zoom();
+      const mf::HexXY h = mf::PixelToHex(pos.x() / zoom, pos.y() / zoom, static_cast<int>(UI.ScrollX),
+                                         static_cast<int>(UI.ScrollY));
+      mf::HoverMap(h.x, h.y);
+      ShowOrderLine();
+    }
+    return false;
+  }
+  if (watched == bigPicture_ && event->type() == QEvent::MouseButtonPress) {
+    // The big picture is the selected formation: the same as a press on its counter.
+    Act([] { mf::PanelPress(static_cast<int>(UI.SelSlot)); });
+    return true;
+  }
+  return QMainWindow::eventFilter(watched, event);
 }
 
 void MainWindow::QuitNow() {

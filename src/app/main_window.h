@@ -61,6 +61,9 @@ class MainWindow : public QMainWindow {
   void closeEvent(QCloseEvent* e) override;
   void keyPressEvent(QKeyEvent* e) override;
   void resizeEvent(QResizeEvent* e) override;
+  // The mouse over the map (the move-cost line) and presses on the panel's
+  // big picture of the selected formation.
+  bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
   void BuildMenus();
@@ -71,6 +74,10 @@ class MainWindow : public QMainWindow {
   void Tick();
   void ReloadPicturesIfNeeded();
   void ApplyMenuState();
+  // The order buttons, the do and cancel buttons, "Next turn" and the order
+  // line as the order machine has them.
+  void ApplyButtons();
+  void ShowOrderLine();
 
   QtPlatform* platform_;
   MapWidget* map_ = nullptr;
@@ -86,6 +93,8 @@ class MainWindow : public QMainWindow {
   QLabel* ppLabel_ = nullptr;
   QLabel* modeLabel_ = nullptr;
   QLabel* helpLine_ = nullptr;
+  QLabel* orderLine_ = nullptr;
+  QLabel* bigPicture_ = nullptr;
   std::map<std::string, QAction*> actions_;
   std::map<std::string, QPushButton*> buttons_;
   QTimer timer_;

@@ -7,15 +7,19 @@
 #include <sstream>
 #include <vector>
 
+#include "engine/show_supply.h"
 #include "engine/turn_cycle.h"
 #include "files/field_registry.h"
 #include "files/scenario_file.h"
 #include "model/arith.h"
 #include "model/reset.h"
 #include "model/rnd.h"
+#include "orders/order_state.h"
 #include "platform/scripted_platform.h"
 #include "script_tokenizer.h"
 #include "session.h"
+#include "view/keyboard.h"
+#include "view/selection.h"
 
 namespace fs = std::filesystem;
 
@@ -224,6 +228,104 @@ bool Tick(Run&, const Words& a, std::string* why) {
   return true;
 }
 
+// A whole number of a script word, within lo..hi.
+bool WholeNumberIn(const std::string& word, long lo, long hi, long* n) {
+  if (!IsWholeNumber(word)) return false;
+  const unsigned long long v = std::stoull(word);
+  if (v < static_cast<unsigned long long>(lo) || v > static_cast<unsigned long long>(hi)) return false;
+  *n = static_cast<long>(v);
+  return true;
+}
+
+// A press on hex (X, Y) of the map, the left button unless "right" is given.
+// A hex off the map is a press outside it, which the game ignores.
+bool Click(Run&, const Words& a, std::string* why) {
+  long x = 0, y = 0;
+  if (!WholeNumberIn(a[0], 0, 999, &x) || !WholeNumberIn(a[1], 0, 999, &y)) {
+    *why = "click: \"" + a[0] + " " + a[1] + "\" is not a hex (two whole numbers)";
+    return false;
+  }
+  int button = kLeftButton;
+  if (a.size() > 2) {
+    if (a[2] != "right" && a[2] != "left") {
+      *why = "click: \"" + a[2] + "\" is neither left nor right";
+      return false;
+    }
+    if (a[2] == "right") button = kRightButton;
+  }
+  ClickMap(static_cast<int>(x), static_cast<int>(y), button);
+  return true;
+}
+
+// A press on a button of the map window. A person cannot press a disabled
+// button, so a script that tries is told so and fails.
+bool Press(Run&, const Words& a, std::string* why) {
+  const std::string& name = a[0];
+  RefreshButtons();
+  auto disabled = [&](const std::string& caption) {
+    *why = "press " + name + ": the button \"" + caption + "\" is disabled";
+    return false;
+  };
+  if (name == "do") {
+    if (!Buttons.doButton.enabled) return disabled(Buttons.doButton.caption);
+    DoButton();
+    return true;
+  }
+  if (name == "cancel") {
+    if (!Buttons.cancel.enabled) return disabled("CANCEL ORDER");
+    DoCancel();
+    return true;
+  }
+  if (name == "showsupply") {
+    ShowSupplyCommand();
+    return true;
+  }
+  const int id = OrderButtonByName(name);
+  if (id < 0) {
+    *why = "press: no button \"" + name + "\" (move, attack, production, command, newunit, transfer, officerpool, "
+           "research, diplomatics, disband, entrench, load, unload, interdict, strategic, airlift, airsupply, do, "
+           "cancel, showsupply)";
+    return false;
+  }
+  if (!PressOrderButton(id)) return disabled(OrderButtonOf(id).label);
+  return true;
+}
+
+// A key of the main window by its name: a letter, Enter, Space, Esc, F1,
+// F2, F11, F12 or an arrow. A key that does nothing now is no failure.
+bool Key(Run&, const Words& a, std::string* why) {
+  std::string k;
+  for (char c : a[0]) k += static_cast<char>(c >= 'a' && c <= 'z' ? c - 'a' + 'A' : c);
+  static const std::pair<const char*, int> kNames[] = {
+      {"ENTER", kKeyEnter}, {"SPACE", kKeySpace}, {"ESC", kKeyEscape}, {"ESCAPE", kKeyEscape},
+      {"F1", kKeyF1},       {"F2", kKeyF2},       {"F11", kKeyF11},    {"F12", kKeyF12},
+      {"LEFT", kKeyLeft},   {"RIGHT", kKeyRight}, {"UP", kKeyUp},      {"DOWN", kKeyDown}};
+  int code = 0;
+  if (k.size() == 1 && k[0] >= 'A' && k[0] <= 'Z') code = k[0];
+  for (const auto& [n, c] : kNames)
+    if (k == n) code = c;
+  if (code == 0) {
+    *why = "key: \"" + a[0] + "\" is not a key (a letter, Enter, Space, Esc, F1, F2, F11, F12, Left, Right, Up, Down)";
+    return false;
+  }
+  KeyDown(code);
+  return true;
+}
+
+// A press on the picture of the formation in stack slot 1..3 in the side panel.
+bool Panel(Run&, const Words& a, std::string* why) {
+  long slot = 0;
+  if (!WholeNumberIn(a[0], 1, 3, &slot)) {
+    *why = "panel: \"" + a[0] + "\" is not a stack slot 1..3";
+    return false;
+  }
+  if (!PanelPress(static_cast<int>(slot))) {
+    *why = "panel " + a[0] + ": no formation stands in that slot of the selected hex";
+    return false;
+  }
+  return true;
+}
+
 // The script's commands. A command without a handler belongs to a part of the
 // game that is not built yet: it fails loudly, so that a script never passes
 // by skipping what it asked for.
@@ -246,10 +348,10 @@ const Command kCommands[] = {
      &Start},
     {"endturn", 0, 0, "endturn", &EndTurn},
     {"surrender", 0, 0, "surrender", &Surrender},
-    {"click", 2, 3, "click X Y [right]", nullptr},
-    {"press", 1, 1, "press NAME", nullptr},
-    {"key", 1, 1, "key NAME", nullptr},
-    {"panel", 1, 1, "panel SLOT", nullptr},
+    {"click", 2, 3, "click X Y [right]", &Click},
+    {"press", 1, 1, "press NAME", &Press},
+    {"key", 1, 1, "key NAME", &Key},
+    {"panel", 1, 1, "panel SLOT", &Panel},
 };
 
 // Runs one command line; false with a reason when it failed.

@@ -4,6 +4,8 @@
 
 namespace mf {
 
+int FloodMinX = 0, FloodMinY = 0, FloodMaxX = 0, FloodMaxY = 0;
+
 void ClearFlood() {
   const int w = Game.MapW < kMapCap ? Game.MapW : kMapCap;
   const int h = Game.MapH < kMapCap ? Game.MapH : kMapCap;

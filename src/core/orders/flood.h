@@ -8,4 +8,8 @@ namespace mf {
 // scratch to 0, on the whole map.
 void ClearFlood();
 
+// The box of hexes the last flood worked over, inclusive; written by each
+// flood when it ends.
+extern int FloodMinX, FloodMinY, FloodMaxX, FloodMaxY;
+
 }  // namespace mf

@@ -1,9 +1,822 @@
 #include "orders/order_state.h"
 
+#include <string>
+
+#include "combat/attack.h"
+#include "editor/map_paint.h"
+#include "engine/diplomacy.h"
+#include "engine/officers.h"
+#include "engine/production.h"
+#include "engine/research.h"
+#include "engine/supply_flood.h"
+#include "engine/turn_cycle.h"
+#include "model/arith.h"
+#include "model/game_state.h"
+#include "model/hex_geometry.h"
+#include "orders/flood.h"
+#include "orders/move_allowance.h"
+#include "orders/movement.h"
+#include "orders/new_units.h"
+#include "orders/sight.h"
+#include "orders/transfer.h"
+#include "orders/transport.h"
+#include "platform/platform.h"
+#include "view/keyboard.h"
+#include "view/selection.h"
+
 namespace mf {
 
-// No order can be started yet, so there is never one to cancel; the orders
-// of the map window fill this in together with their buttons.
-void DoCancel() {}
+ButtonState Buttons;
+
+namespace {
+
+// Sounds of a finished move, by what moved.
+constexpr int kSoundMoveFoot = 11;   // "mov_inf.wav"
+constexpr int kSoundMoveArmour = 12; // "mov_arm.wav"
+constexpr int kSoundRebase = 14;     // "att_bomb.wav"
+constexpr int kSoundMoveShip = 15;   // "mov_ship.wav"
+
+const OrderButtonInfo kButtons[kOrderButtonCount] = {
+    {"move", "[M]ove", 'M'},
+    {"attack", "[A]ttack", 'A'},
+    {"production", "[P]roduction", 'P'},
+    {"command", "[C]hange Command", 'C'},
+    {"newunit", "[N]ew Unit", 'N'},
+    {"transfer", "[T]ransfer", 'T'},
+    {"officerpool", "[O]fficerpool", 'O'},
+    {"research", "[R]esearch", 'R'},
+    {"diplomatics", "[D]iplomatics", 'D'},
+    {"disband", "Disband this unit", 0},
+    {"entrench", "[E]ntrench", 'E'},
+    {"load", "[L]oad", 'L'},
+    {"unload", "[U]nload", 'U'},
+    {"interdict", "[I]nterdict", 'I'},
+    {"strategic", "[S]trategic bombing", 'S'},
+    {"airlift", "Airli[f]t/drop", 'F'},
+    {"airsupply", "Airtransfer [Y]", 'Y'},
+};
+
+const char* const kCancelCaption = "CANCEL ORDER";
+
+int Cur() { return ValidRegime(static_cast<int>(Game.CurRegime)) ? static_cast<int>(Game.CurRegime) : 0; }
+bool Editing() { return UI.EditMode == 1; }
+bool ComputerTurn() { return Cur() != 0 && Regime[Cur()].AI > 0; }
+
+void Click() {
+  if (UI.SoundOff == 0) Plat().PlaySound(kClickSound);
+}
+void Sound(int slot) {
+  if (UI.SoundOff == 0) Plat().PlaySound(slot);
+}
+void Say(const std::string& text) { Plat().ShowMessage(text, ""); }
+
+// The formation in a stack slot of a hex, 0 for none or bad data.
+int UnitAt(long x, long y, long slot) {
+  if (!ValidHex(static_cast<int>(x), static_cast<int>(y)) || slot < 1 || slot > kStackSlots) return 0;
+  const long u = Hex[x][y].Unit[slot];
+  return ValidUnit(static_cast<int>(u)) ? static_cast<int>(u) : 0;
+}
+int SelectedUnit() { return UnitAt(UI.SelX, UI.SelY, UI.SelSlot); }
+int OriginUnit() { return UnitAt(UI.OrdX, UI.OrdY, UI.OrdSlot); }
+bool SelectionOnMap() { return ValidHex(static_cast<int>(UI.SelX), static_cast<int>(UI.SelY)); }
+HexRec& SelectedHex() { return SelectionOnMap() ? Hex[UI.SelX][UI.SelY] : Hex[0][0]; }
+
+// Whose the selection is: the hex's owner, or for a formation on a neutral
+// hex (at sea) the formation's regime.
+long SelectionOwner() {
+  long o = SelectedHex().Owner;
+  if (o == 0) {
+    const int u = SelectedUnit();
+    if (u != 0) o = Unit[u].Regime;
+  }
+  return o;
+}
+
+long AttrOf(long type, int attr) { return ValidType(static_cast<int>(type)) ? Type[type].Attr[attr] : 0; }
+
+std::string Upper(std::string s) {
+  for (char& c : s)
+    if (c >= 'a' && c <= 'z') c = static_cast<char>(c - 'a' + 'A');
+  return s;
+}
+
+// The air wing an air order is given to: the selected wing itself, or the
+// wing aboard the selected ship.
+int AirWingOfSelection() {
+  const int u = SelectedUnit();
+  if (u == 0) return 0;
+  if (Unit[u].Theater == kAirTheater) return u;
+  if (Unit[u].Theater == kSeaTheater && ValidUnit(static_cast<int>(Unit[u].Cargo)) &&
+      Unit[Unit[u].Cargo].Theater == kAirTheater)
+    return static_cast<int>(Unit[u].Cargo);
+  return 0;
+}
+
+// What every start does: the origin is the selection, the buttons go off,
+// and the do button takes the order's caption.
+void BeginOrder(const std::string& doCaption) {
+  UI.OrdX = UI.SelX;
+  UI.OrdY = UI.SelY;
+  UI.OrdSlot = UI.SelSlot;
+  DisableButtons();
+  Buttons.doButton.caption = doCaption;
+  Buttons.doButton.enabled = true;
+}
+
+// The common end of an order: buttons for the selection again, do off,
+// the order line hidden, the line of a regime at rest.
+void FinishOrder() {
+  RefreshButtons();
+  Buttons.doButton.enabled = false;
+  Buttons.orderLineShown = false;
+  Buttons.cancel.enabled = false;
+  Helper();
+}
+
+void EndMoveOrder() {
+  UI.Order.SelOrderMove = 0;
+  ClearFlood();
+  // The dark reach goes away.
+  RequestRedraw(2);
+  FinishOrder();
+}
+
+void EndEntrenchOrder() {
+  UI.Order.EntrenchOrder = 0;
+  ClearFlood();
+  ReturnSelectionToOrigin();
+  RequestRedraw(2);
+  FinishOrder();
+}
+
+void EndBossOrder() {
+  UI.Order.BossOrder = 0;
+  ReturnSelectionToOrigin();
+  RequestRedraw(1);
+  FinishOrder();
+}
+
+// The do button of a change of command: choosing nobody or the formation
+// itself ends the order without a word.
+void BossDo() {
+  const int target = SelectedUnit();
+  if (target == 0 || target == OriginUnit()) {
+    EndBossOrder();
+    return;
+  }
+  doNewBoss();
+}
+
+// The do button of a transfer: no destination, or the source itself, ends it.
+void TransferDo() {
+  const int target = SelectedUnit();
+  if (target == 0 || target == OriginUnit()) {
+    dotransfer2();
+    return;
+  }
+  TransferBetween();
+}
+
+void AttackDo() {
+  doAttack();
+  UI.Order.AttackOrder = 0;
+  RefreshButtons();
+  // The attackers' hexes and the target change; the whole map is redrawn
+  // after the fog has been worked out again.
+  SightPass();
+  RequestRedraw(2);
+  UI.PanelDirty = true;
+  FinishOrder();
+}
+
+// Where a move order's click lands: the origin ends the order, elsewhere the
+// formation moves if it can.
+void MoveClick() {
+  if (UI.SelX == UI.OrdX && UI.SelY == UI.OrdY) {
+    EndMoveOrder();
+    return;
+  }
+  const int u = static_cast<int>(UI.Order.SelOrderMove);
+  const int result = MoveUnit(false);
+  if (result == kMoveShortOfMP) {
+    Say("Not enough movementpoints");
+    return;
+  }
+  if (result == kMoveHexFull) {
+    Say("To many units in target hex");
+    return;
+  }
+  // The formation now stands in the selected hex: its stack is counted
+  // again, so that the next order can start from here at once.
+  UI.SelCount = StackCount(static_cast<int>(UI.SelX), static_cast<int>(UI.SelY));
+  if (!Editing()) SightPass();
+  RequestRedraw(2);
+  UI.PanelDirty = true;
+  Buttons.orderLineShown = false;
+  if (!Editing() && ValidUnit(u)) {
+    const long theater = Unit[u].Theater;
+    if (theater == kSeaTheater) {
+      Sound(kSoundMoveShip);
+    } else if (theater == kAirTheater) {
+      Sound(kSoundRebase);
+    } else {
+      Sound(UnitMaxMoveOf(u, true) > 99 ? kSoundMoveArmour : kSoundMoveFoot);
+    }
+  }
+  EndMoveOrder();
+}
+
+void StartMove() {
+  const int u = SelectedUnit();
+  const bool own = SelectionOnMap() && (SelectedHex().Owner == Game.CurRegime || (u != 0 && Unit[u].Regime == Game.CurRegime));
+  if (!(Editing() || own)) return;
+  if (UI.SelCount <= 0 || UI.SelSlot <= 0 || u == 0) return;
+  BeginOrder("DON'T MOVE");
+  UI.Order.SelOrderMove = u;
+  MoveFlood(false);
+  Buttons.orderLine.clear();
+  Buttons.orderLineShown = true;
+  Helper();
+}
+
+// The neighbour of the entrenching formation's hex that the selection is,
+// 1..6, or 0.
+int DirectionFromOrigin() {
+  for (int d = 1; d <= kHexSides; ++d) {
+    const HexXY n = Neighbour(static_cast<int>(UI.OrdX), static_cast<int>(UI.OrdY), d);
+    if (n.x == UI.SelX && n.y == UI.SelY) return d;
+  }
+  return 0;
+}
+
+void EntrenchClick() {
+  if (UI.SelX == UI.OrdX && UI.SelY == UI.OrdY) {
+    EndEntrenchOrder();
+    return;
+  }
+  if (!SelectionOnMap() || SelectedHex().Mark != 0) return;
+  const int d = DirectionFromOrigin();
+  if (d != 0) doEntrench(d);
+}
+
+void StartEntrench() {
+  if (Editing()) return;
+  const int u = SelectedUnit();
+  if (u == 0 || Unit[u].Theater != kLandTheater) return;
+  if (!(SelectedHex().Owner == Game.CurRegime || Unit[u].Regime == Game.CurRegime)) return;
+  BeginOrder("DON'T ENTRENCH");
+  UI.Order.EntrenchOrder = 1;
+  // Only the six sides of the hex can be picked.
+  ClearFlood();
+  for (int d = 1; d <= kHexSides; ++d) {
+    const HexXY n = Neighbour(static_cast<int>(UI.OrdX), static_cast<int>(UI.OrdY), d);
+    if (n.x > 0 && n.y > 0) Hex[n.x][n.y].Mark = 0;
+  }
+  RequestRedraw(1);
+  Helper();
+}
+
+// Interdiction and strategic bombing start the same way: a wing with 2 MP,
+// flown from its own hex or from the deck of the selected ship.
+void StartAirStrike(bool strategic) {
+  const int wing = AirWingOfSelection();
+  if (wing == 0 || Unit[wing].MP < 2) return;
+  BeginOrder(strategic ? "DO STRATEGIC BOMBING" : "DO INTERDICT");
+  if (strategic) {
+    UI.Order.StratBombOrder = 1;
+  } else {
+    UI.Order.InterdictOrder = 1;
+  }
+  // A wing on board flies from the ship's slot while its reach is worked out.
+  Long& slot = Hex[UI.OrdX][UI.OrdY].Unit[UI.OrdSlot];
+  const Long ship = slot;
+  slot = wing;
+  MoveFlood(false);
+  slot = ship;
+  Helper();
+}
+
+// Total weight of a formation's troops.
+long LoadWeight(int u) {
+  long w = 0;
+  for (int cls = 1; cls <= 4; ++cls) w += AttrOf(UnitSlotType(u, cls), kWeight) * UnitSlotQty(u, cls);
+  return w;
+}
+
+}  // namespace
+
+const OrderButtonInfo& OrderButtonOf(int id) {
+  static const OrderButtonInfo none{"", "", 0};
+  return id >= 0 && id < kOrderButtonCount ? kButtons[id] : none;
+}
+
+int OrderButtonByName(const std::string& name) {
+  for (int i = 0; i < kOrderButtonCount; ++i)
+    if (name == kButtons[i].name) return i;
+  return -1;
+}
+
+bool OrderUnderWay() {
+  const OrderFlags& o = UI.Order;
+  return o.SelOrderMove > 0 || o.AttackOrder > 0 || o.BossOrder > 0 || o.TransferOrder > 0 || o.LoadOrder > 0 ||
+         o.LandingOrder > 0 || o.AirliftOrder > 0 || o.AirSupplyOrder > 0 || o.InterdictOrder > 0 ||
+         o.StratBombOrder > 0 || o.EntrenchOrder > 0;
+}
+
+void DisableButtons() {
+  for (int i = 0; i < kOrderButtonCount; ++i) {
+    Buttons.order[i].caption = kButtons[i].label;
+    Buttons.order[i].enabled = false;
+  }
+  Buttons.paintControls = false;
+}
+
+void SetAIPhase(int phase, int phases) {
+  Buttons.aiPhase = phase;
+  Buttons.aiPhases = phases;
+}
+
+void RefreshButtons() {
+  if (OrderUnderWay()) return;
+  const OrderFlags& o = UI.Order;
+  const bool painting = o.RegimePaint > 0 || o.LandscapePaint > 0;
+  Buttons.cancel.caption = kCancelCaption;
+  if (!painting) {
+    Buttons.doButton.enabled = false;
+    Buttons.doButton.caption.clear();
+    Buttons.cancel.enabled = false;
+    Buttons.orderLineShown = false;
+  }
+
+  if (Editing()) {
+    Buttons.nextTurn.caption = "Next turn";
+    Buttons.nextTurn.enabled = false;
+    if (painting) return;
+    DisableButtons();
+    if (!UI.ShowEditorPanel) return;
+    const HexRec& h = SelectedHex();
+    Buttons.order[kBtnMove].enabled = UI.SelSlot > 0;
+    Buttons.order[kBtnProduction].enabled = h.Pop > 0;
+    Buttons.order[kBtnCommand].enabled = UI.SelSlot > 0;
+    Buttons.order[kBtnNewUnit].enabled = SelectionOnMap() && (h.Owner > 0 || h.Unit[1] == 0);
+    Buttons.paintControls = true;
+    return;
+  }
+
+  DisableButtons();
+  // "Next turn" is always there in a game; during the computer's turn it
+  // tells how far the computer has got.
+  Buttons.nextTurn.enabled = Game.Turn > 0;
+  if (ComputerTurn()) {
+    Buttons.nextTurn.caption = Game.AIAnalysis != kFalse ? "AI PHASE " + NumText(Buttons.aiPhase) + "/" +
+                                                               NumText(Buttons.aiPhases)
+                                                         : std::string();
+    return;
+  }
+  Buttons.nextTurn.caption = "Next turn";
+  if (Game.Turn <= 0 || Cur() == 0 || !SelectionOnMap()) return;
+
+  const HexRec& h = SelectedHex();
+  const long o_ = SelectionOwner();
+  const bool ownSel = o_ == Game.CurRegime;
+  const bool slot = UI.SelSlot > 0;
+  const int u = SelectedUnit();
+  const bool ownUnit = u != 0 && Unit[u].Regime == Game.CurRegime;
+
+  Buttons.order[kBtnMove].enabled = ownSel && slot;
+  Buttons.order[kBtnAttack].enabled =
+      !ownSel && UI.Order.SelOrderMove == 0 && slot &&
+      (o_ == 0 || (ValidRegime(static_cast<int>(o_)) && Dip[Cur()][o_].Relation == 0));
+  Buttons.order[kBtnProduction].enabled = ownSel && h.Pop > 0;
+  Buttons.order[kBtnCommand].enabled = ownSel && slot;
+  Buttons.order[kBtnNewUnit].enabled = ownSel && h.Unit[kStackSlots] == 0;
+  Buttons.order[kBtnTransfer].enabled = ownSel && slot;
+  Buttons.order[kBtnOfficerPool].enabled = ownSel;
+  Buttons.order[kBtnResearch].enabled = ownSel;
+  Buttons.order[kBtnDiplomatics].enabled = ownSel;
+  Buttons.order[kBtnDisband].enabled = ownSel && slot;
+  Buttons.order[kBtnEntrench].enabled =
+      ownSel && u != 0 && Unit[u].InfQty > 0 && Unit[u].Theater == kLandTheater && Unit[u].Shq < 1;
+  const bool ownShip = slot && ownUnit && Unit[u].Theater == kSeaTheater;
+  Buttons.order[kBtnLoad].enabled = ownShip;
+  Buttons.order[kBtnUnload].enabled = ownShip && Unit[u].Cargo > 0;
+  const bool airPower = slot && ownUnit && AirWingOfSelection() != 0;
+  Buttons.order[kBtnInterdict].enabled = airPower;
+  Buttons.order[kBtnStrategic].enabled = airPower;
+  Buttons.order[kBtnAirlift].enabled = airPower;
+  Buttons.order[kBtnAirSupply].enabled = airPower;
+}
+
+void Helper() {
+  const OrderFlags& o = UI.Order;
+  std::string line;
+  if (o.SelOrderMove > 0) {
+    line = "You are moving a formation. Click on a highlighted hex to move it there.";
+  } else if (o.AttackOrder > 0) {
+    line = "You have targeted a hex for attack. Now you must select units to join this attack and press do attack.";
+  } else if (o.BossOrder > 0) {
+    line = "You want to change the boss of the selected Formation. Select the new boss and press the do new thq/shq "
+           "button.";
+  } else if (o.TransferOrder > 0) {
+    line = "You have selected a unit to transfer. Now select the target formation and press do transfer";
+  } else if (o.LoadOrder > 0) {
+    line = "You have selected a Naval Formation to load another Formation. Select this formation and press do load.";
+  } else if (o.LandingOrder > 0) {
+    line = "You want to unload from your Naval Formation. Select a neighbouring hex to unload.";
+  } else if (o.InterdictOrder > 0) {
+    line = "You have selected an Air Formation to interdict. Now select a target formation and press do interdict.";
+  } else if (o.StratBombOrder > 0) {
+    line = "You have selected an Air Formation to Bomb a town. Now select a town and press do strategic bombing.";
+  } else if (o.AirliftOrder > 0) {
+    line = "You have selected an Air Formation to do an Air lift. Now select a target hex to drop or land the "
+           "transported formation.";
+  } else if (o.AirSupplyOrder > 0) {
+    line = "You have selected an Air Formation to provide Air supply. Select the receiving unit and press do "
+           "airsupply.";
+  } else if (o.EntrenchOrder > 0) {
+    line = "You are attempting to entrench a border of the selected hex. Click on a neighbour to select border.";
+  } else if (Editing()) {
+    line = "You are in the editing mode. If you want to play this scenario select start in the menu.";
+  } else if (ComputerTurn()) {
+    line = "The AI for " + Regime[Cur()].Name + " is doing it's turn.";
+  } else {
+    line = Regime[Cur()].Name + ", please give your orders. Press Next Turn Button if you are finished.";
+  }
+  UI.HelpText = line;
+  Buttons.cancel.caption = kCancelCaption;
+  // Entrenchment leaves the cancel button as it found it.
+  if (o.EntrenchOrder == 0) Buttons.cancel.enabled = OrderUnderWay();
+}
+
+void ReturnSelectionToOrigin() {
+  UI.SelX = UI.OrdX;
+  UI.SelY = UI.OrdY;
+  UI.PrevSelX = UI.OrdX;
+  UI.PrevSelY = UI.OrdY;
+  UI.SelCount = StackCount(static_cast<int>(UI.SelX), static_cast<int>(UI.SelY));
+  UI.SelSlot = UI.OrdSlot;
+  if (UI.SelSlot > UI.SelCount) UI.SelSlot = UI.SelCount;
+  UI.PanelDirty = true;
+  RequestRedraw(1);
+}
+
+void MoveButton() {
+  if (UI.Order.SelOrderMove > 0) {
+    MoveClick();
+  } else {
+    StartMove();
+  }
+}
+
+void AttackButton() {
+  const HexRec& h = SelectedHex();
+  if (h.Unit[1] == 0 || UI.SelCount == 0) {
+    Say("There are no enemy units in the hex you selected. You dont have to attack. You can use move to take it.");
+    return;
+  }
+  const long regime = Unit[UnitAt(UI.SelX, UI.SelY, 1)].Regime;
+  if (ValidRegime(static_cast<int>(regime)) && Dip[Cur()][regime].Relation == 1) {
+    Say("You cannot attack units from a player you are at peace with");
+    return;
+  }
+  if (regime == Game.CurRegime) {
+    Say("You cannot attack your own units. Select an enemy unit and press Attack again.");
+    return;
+  }
+  // Pressed again while the attack is being prepared: only the tests above.
+  if (UI.Order.AttackOrder > 0) return;
+  BeginOrder("DO ATTACK");
+  UI.Order.AttackOrder = 1;
+  for (int i = 0; i <= kAttackerCap; ++i) {
+    UI.AttackerX[i] = 0;
+    UI.AttackerY[i] = 0;
+    UI.AttackerSlot[i] = 0;
+  }
+  UI.AttackerCount = 0;
+  Helper();
+}
+
+void ProductionButton() { UrbanProduction(); }
+void NewUnitButton() { NewCommand(); }
+void OfficerPoolButton() { doPool(); }
+void ResearchButton() { doRes(); }
+void DiplomaticsButton() { doDip(); }
+void DisbandButton() { doDisband(); }
+
+void CommandButton() {
+  const int u = SelectedUnit();
+  if (u == 0) return;
+  if (!Editing() && Unit[u].Regime != Game.CurRegime) return;
+  if (Unit[u].MP > 0 && !Plat().AskYesNo("Unit still has Movement Points. Are you sure?", "WARNING")) return;
+  if (Unit[u].Shq > 0) {
+    Say("You cannot assign a Boss for a SHQ. A SHQ is the top dog.");
+    return;
+  }
+  // A formation picks a THQ; a THQ picks an SHQ.
+  const bool thq = Unit[u].Thq > 0;
+  BeginOrder((thq ? "DO NEW SHQ FOR " : "DO NEW THQ FOR ") + Unit[u].Name);
+  UI.Order.BossOrder = thq ? 2 : 1;
+  Helper();
+}
+
+void TransferButton() {
+  const int u = SelectedUnit();
+  if (u == 0 || Unit[u].Regime != Game.CurRegime) return;
+  BeginOrder("DO TRANSFER FROM " + Upper(Unit[u].Name));
+  UI.Order.TransferOrder = 1;
+  // The reach of the source's transport shows on the map.
+  SupplyFlood(true);
+  RequestRedraw(2);
+  Helper();
+}
+
+void EntrenchButton() {
+  if (UI.Order.EntrenchOrder > 0) {
+    EntrenchClick();
+  } else {
+    StartEntrench();
+  }
+}
+
+void LoadButton() {
+  const int u = SelectedUnit();
+  if (u == 0 || Unit[u].Regime != Game.CurRegime || Unit[u].Theater != kSeaTheater) return;
+  BeginOrder("DO LOAD INTO " + Unit[u].Name);
+  UI.Order.LoadOrder = 1;
+  Helper();
+}
+
+void UnloadButton() {
+  const int u = SelectedUnit();
+  if (u == 0 || Unit[u].Regime != Game.CurRegime || Unit[u].Theater != kSeaTheater) return;
+  // In a town the cargo walks ashore at once.
+  if (SelectedHex().Land == kUrban) {
+    doUnloadTown();
+    return;
+  }
+  BeginOrder("DO UNLOAD ON SELECTED HEX");
+  UI.Order.LandingOrder = 1;
+  Helper();
+}
+
+void InterdictButton() { StartAirStrike(false); }
+void StrategicButton() { StartAirStrike(true); }
+
+void AirliftButton() {
+  const int wing = AirWingOfSelection();
+  if (wing == 0) return;
+  // The formations on the airfield that could be flown out.
+  int found[kStackSlots] = {};
+  int n = 0;
+  for (int s = 1; s <= kStackSlots; ++s) {
+    const int v = UnitAt(UI.SelX, UI.SelY, s);
+    if (v != 0 && v != wing && Unit[v].Theater == kLandTheater) found[n++] = v;
+  }
+  if (n == 0) {
+    Plat().ShowMessage("No unit in hex thats eligable for transport.", "Not possible");
+    return;
+  }
+  int lifted = found[0];
+  if (n > 1) {
+    const bool first = Plat().AskYesNo(
+        "[Yes = transport " + Unit[found[0]].Name + "]   [No = transport " + Unit[found[1]].Name + "]",
+        "Airlift which unit");
+    lifted = first ? found[0] : found[1];
+  }
+  if (Unit[lifted].MP < 2) {
+    Say("Unit has not enough MP. Should have at least 2mp.");
+    return;
+  }
+  // What the transport aircraft can carry decides; too heavy, and nothing happens.
+  const long capacity = AttrOf(Unit[wing].MobType, kCarryCap) * Unit[wing].MobQty;
+  if (LoadWeight(lifted) > capacity) return;
+  int drop = 0;
+  for (int cls = 1; cls <= 4; ++cls)
+    if (UnitSlotQty(lifted, cls) > 0 && AttrOf(UnitSlotType(lifted, cls), kParadropCap) == 0) drop = 1;
+  BeginOrder("SELCECT AIRLIFT/AIRDROP DESTINATION FOR " + Unit[lifted].Name);
+  AirliftUnit = lifted;
+  AirliftDrop = drop;
+  UI.Order.AirliftOrder = 1;
+  Long& slot = Hex[UI.OrdX][UI.OrdY].Unit[UI.OrdSlot];
+  const Long held = slot;
+  slot = wing;
+  MoveFlood(false);
+  slot = held;
+  Helper();
+}
+
+void AirSupplyButton() {
+  const int wing = AirWingOfSelection();
+  if (wing == 0) return;
+  // The SHQ that pays: the wing's boss, or its boss's boss.
+  int shq = 0;
+  const long boss = Unit[wing].Boss;
+  if (ValidUnit(static_cast<int>(boss))) {
+    if (Unit[boss].Shq > 0) {
+      shq = static_cast<int>(boss);
+    } else if (ValidUnit(static_cast<int>(Unit[boss].Boss)) && Unit[Unit[boss].Boss].Shq > 0) {
+      shq = static_cast<int>(Unit[boss].Boss);
+    }
+  }
+  if (shq == 0 || Unit[shq].Shq > kShqCap) return;
+  if (SelectedHex().ShqDist[Unit[shq].Shq] >= 999) return;
+  BeginOrder("DO AIRSUPPLY FROM " + Unit[wing].Name);
+  AirSupplyShq = shq;
+  UI.Order.AirSupplyOrder = 1;
+  Long& slot = Hex[UI.OrdX][UI.OrdY].Unit[UI.OrdSlot];
+  const Long held = slot;
+  slot = wing;
+  MoveFlood(false);
+  slot = held;
+  Helper();
+}
+
+void DoButton() {
+  Click();
+  OrderFlags& o = UI.Order;
+  if (o.SelOrderMove > 0) EndMoveOrder();
+  if (o.EntrenchOrder > 0) EndEntrenchOrder();
+  if (o.AttackOrder > 0) AttackDo();
+  if (o.BossOrder > 0) BossDo();
+  if (o.AirSupplyOrder > 0) doAirsupply();
+  if (o.AirliftOrder > 0) doAirlift();
+  if (o.TransferOrder > 0) TransferDo();
+  if (o.LandingOrder > 0) doLanding();
+  if (o.StratBombOrder > 0 || o.InterdictOrder > 0) doAirMission();
+  if (o.LoadOrder > 0) doLoad();
+  if (o.RegimePaint > 0 || o.LandscapePaint > 0) {
+    o.RegimePaint = 0;
+    o.LandscapePaint = 0;
+    RefreshButtons();
+    Buttons.doButton.enabled = false;
+  }
+}
+
+void DoCancel() {
+  OrderFlags& o = UI.Order;
+  if (o.EntrenchOrder > 0) EndEntrenchOrder();
+  if (o.InterdictOrder > 0 || o.StratBombOrder > 0) {
+    o.InterdictOrder = 0;
+    o.StratBombOrder = 0;
+    ReturnSelectionToOrigin();
+    ClearFlood();
+    RequestRedraw(2);
+    FinishOrder();
+  }
+  if (o.LandingOrder > 0) {
+    o.LandingOrder = 0;
+    ReturnSelectionToOrigin();
+    FinishOrder();
+  }
+  if (o.LoadOrder > 0) {
+    o.LoadOrder = 0;
+    ReturnSelectionToOrigin();
+    FinishOrder();
+  }
+  if (o.AirliftOrder > 0 || o.AirSupplyOrder > 0) {
+    o.AirliftOrder = 0;
+    o.AirSupplyOrder = 0;
+    ReturnSelectionToOrigin();
+    ClearFlood();
+    RequestRedraw(2);
+    FinishOrder();
+  }
+  if (o.BossOrder > 0 || o.TransferOrder > 0) {
+    // With the origin selected again, the do button ends the order by itself.
+    ReturnSelectionToOrigin();
+    DoButton();
+  }
+  if (o.SelOrderMove > 0) {
+    ReturnSelectionToOrigin();
+    MoveButton();
+  }
+  if (o.AttackOrder > 0) {
+    o.AttackOrder = 0;
+    for (int i = 0; i <= kAttackerCap; ++i) {
+      UI.AttackerX[i] = 0;
+      UI.AttackerY[i] = 0;
+      UI.AttackerSlot[i] = 0;
+    }
+    UI.AttackerCount = 0;
+    ReturnSelectionToOrigin();
+    RequestRedraw(2);
+    FinishOrder();
+  }
+}
+
+void NextTurnButton() { EndTurnCommand(); }
+
+bool PressOrderButton(int id) {
+  if (id < 0 || id >= kOrderButtonCount) return false;
+  RefreshButtons();
+  if (!Buttons.order[id].enabled) return false;
+  switch (id) {
+    case kBtnMove: MoveButton(); break;
+    case kBtnAttack: AttackButton(); break;
+    case kBtnProduction: ProductionButton(); break;
+    case kBtnCommand: CommandButton(); break;
+    case kBtnNewUnit: NewUnitButton(); break;
+    case kBtnTransfer: TransferButton(); break;
+    case kBtnOfficerPool: OfficerPoolButton(); break;
+    case kBtnResearch: ResearchButton(); break;
+    case kBtnDiplomatics: DiplomaticsButton(); break;
+    case kBtnDisband: DisbandButton(); break;
+    case kBtnEntrench: EntrenchButton(); break;
+    case kBtnLoad: LoadButton(); break;
+    case kBtnUnload: UnloadButton(); break;
+    case kBtnInterdict: InterdictButton(); break;
+    case kBtnStrategic: StrategicButton(); break;
+    case kBtnAirlift: AirliftButton(); break;
+    case kBtnAirSupply: AirSupplyButton(); break;
+    default: return false;
+  }
+  return true;
+}
+
+bool OrderKey(int keyCode) {
+  const OrderFlags& o = UI.Order;
+  if (keyCode == kKeyEnter || keyCode == kKeySpace) {
+    // Airlift and air supply are finished with the button only.
+    const bool confirmable = o.SelOrderMove > 0 || o.EntrenchOrder > 0 || o.TransferOrder > 0 || o.BossOrder > 0 ||
+                             o.AttackOrder > 0 || o.LoadOrder > 0 || o.InterdictOrder > 0 ||
+                             o.StratBombOrder > 0 || o.LandingOrder > 0;
+    if (!confirmable) return false;
+    DoButton();
+    return true;
+  }
+  // Letters come as their capitals' codes; the codes above them are the
+  // function keys and the number pad.
+  const int letter = keyCode;
+  if (letter < 'A' || letter > 'Z') return false;
+  if (o.AttackOrder > 0 || o.SelOrderMove > 0 || o.TransferOrder > 0 || o.BossOrder > 0) return false;
+  if (Editing() && !UI.ShowEditorPanel) return false;
+  for (int i = 0; i < kOrderButtonCount; ++i)
+    if (kButtons[i].key == letter) return PressOrderButton(i);
+  return false;
+}
+
+void JoinAttacker() {
+  if (UI.Order.AttackOrder == 0) return;
+  const int u = SelectedUnit();
+  // Only the regime's own formations can be sent in.
+  if (u == 0 || Unit[u].Regime != Game.CurRegime) return;
+  if (Unit[u].Theater == kAirTheater) {
+    Say("Air Units Cannot join attack. Use interdict to use them seperatly.");
+    return;
+  }
+  // Above twenty, not at twenty: a twenty-first can still join.
+  if (UI.AttackerCount > 20) {
+    Say("You can only select a maximum of 20 units for an attack.");
+    return;
+  }
+  const int d = Distance(static_cast<int>(UI.SelX), static_cast<int>(UI.SelY), static_cast<int>(UI.OrdX),
+                         static_cast<int>(UI.OrdY));
+  if (d != 1 && !artyok()) return;
+  if (Unit[u].MP < 2) {
+    Say("Unit does not have 2 MP left. This is needed to do an attack.");
+    return;
+  }
+  int at = 0;
+  for (int i = 1; i <= UI.AttackerCount && i <= kAttackerCap; ++i) {
+    if (UI.AttackerX[i] == UI.SelX && UI.AttackerY[i] == UI.SelY && UI.AttackerSlot[i] == UI.SelSlot) {
+      at = i;
+      break;
+    }
+  }
+  if (at > 0) {
+    // The last one takes its place.
+    const long last = UI.AttackerCount;
+    UI.AttackerX[at] = UI.AttackerX[last];
+    UI.AttackerY[at] = UI.AttackerY[last];
+    UI.AttackerSlot[at] = UI.AttackerSlot[last];
+    UI.AttackerX[last] = 0;
+    UI.AttackerY[last] = 0;
+    UI.AttackerSlot[last] = 0;
+    UI.AttackerCount = last - 1;
+  } else if (UI.AttackerCount < kAttackerCap) {
+    const long n = UI.AttackerCount + 1;
+    UI.AttackerX[n] = UI.SelX;
+    UI.AttackerY[n] = UI.SelY;
+    UI.AttackerSlot[n] = UI.SelSlot;
+    UI.AttackerCount = n;
+  }
+  RequestRedraw(1);
+  UI.PanelDirty = true;
+}
+
+bool PanelPress(int slot) {
+  if (!SelectStackSlot(slot)) return false;
+  JoinAttacker();
+  return true;
+}
+
+void HoverMap(int x, int y) {
+  if (UI.Order.SelOrderMove <= 0) return;
+  if (ValidHex(x, y) && Hex[x][y].Mark < 999) {
+    Buttons.orderLine = "Move Cost = " + NumText(Hex[x][y].Mark);
+  } else {
+    Buttons.orderLine = "No Move possible.";
+  }
+}
 
 }  // namespace mf

@@ -82,7 +82,7 @@ bool KeyDown(int keyCode) {
     default:
       // Enter, Space and the letters of the order buttons belong to the
       // orders; F2 to the editor's owner painting.
-      return false;
+      return OrderKey(keyCode);
   }
 }
 

@@ -24,6 +24,10 @@ constexpr int kKeyF12 = 123;
 //   F12  not editing: asks "Set current Turn please (debug only):" and sets Game.Turn.
 //   Esc  any time: cancels the order under way.
 //   arrows: scroll the map by half a screen, not past its edges.
+//   Enter, Space: the do button, while an order that it finishes is under way.
+//   letters: press their order buttons when no move, attack, transfer or
+//            change of command is under way (in the editor only with its
+//            panel showing), and only buttons that are enabled.
 bool KeyDown(int keyCode);
 
 // Scrolls the map by half of the visible part: dx and dy are -1, 0 or 1.

@@ -1,5 +1,6 @@
 #include "view/menu_state.h"
 
+#include "engine/show_supply.h"
 #include "model/game_state.h"
 #include "model/reset.h"
 
@@ -70,6 +71,11 @@ const std::string& DisplaySwitchText(DisplaySwitch which) {
 }
 
 void ToggleDisplaySwitch(DisplaySwitch which) {
+  // The supply switch works out the figures it shows.
+  if (which == DisplaySwitch::kShowSupply) {
+    ShowSupplyCommand();
+    return;
+  }
   Long& field = SwitchField(which);
   field = field != 0 ? 0 : 1;
   RequestRedraw(2);

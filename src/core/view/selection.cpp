@@ -2,7 +2,9 @@
 
 #include <cstdlib>
 
+#include "editor/map_paint.h"
 #include "model/game_state.h"
+#include "orders/order_state.h"
 #include "platform/platform.h"
 
 namespace mf {
@@ -63,9 +65,14 @@ void ClickMap(int x, int y, int button) {
   if (x <= 0 || y <= 0 || !ValidHex(x, y)) return;
   if (UI.SoundOff == 0) Plat().PlaySound(kClickSound);
   SelectHex(x, y);
+  RefreshButtons();
   if (button != kLeftButton) return;
   // A left press also finishes the orders that end with a click on the map
-  // (move, entrench, the editor's painting); they take it from here.
+  // (move, entrench, the editor's painting); each in turn takes it from here.
+  if (UI.Order.SelOrderMove > 0) MoveButton();
+  if (UI.Order.EntrenchOrder > 0) EntrenchButton();
+  if (UI.Order.RegimePaint > 0) RegimePaintButton();
+  if (UI.Order.LandscapePaint > 0) LandscapePaintButton();
 }
 
 }  // namespace mf

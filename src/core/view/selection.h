@@ -28,7 +28,9 @@ bool SelectStackSlot(int slot);
 
 // A press of a mouse button on the map, already turned into a hex. Presses
 // off the map are ignored. Every other press plays the click (unless sound
-// is switched off) and selects; a right press only selects.
+// is switched off), selects and refreshes the order buttons; a right press
+// only selects. A left press then finishes a move or an entrenchment under
+// way, or paints in the editor.
 void ClickMap(int x, int y, int button);
 
 }  // namespace mf

@@ -101,14 +101,6 @@ TEST_F(ScriptRunnerTest, BadLinesFailWithTheirReason) {
   EXPECT_EQ(Run("seed 4294967295\n"), 0) << err.str();
 }
 
-TEST_F(ScriptRunnerTest, CommandsOfUnbuiltPartsFail) {
-  for (const char* line : {"click 3 4", "click 3 4 right", "press move", "key Esc", "panel 1"}) {
-    EXPECT_EQ(Run(std::string(line) + "\n"), 1) << line;
-    const std::string cmd = std::string(line).substr(0, std::string(line).find(' '));
-    EXPECT_EQ(err.str(), "t.mfs:1: not available yet: " + cmd + "\n") << line;
-  }
-}
-
 TEST_F(ScriptRunnerTest, LoadingAMissingFileShowsTheRefusal) {
   const std::string path = (fs::path(tempDir) / "nothere.mf1").string();
   EXPECT_EQ(Run("load nothere.mf1\n"

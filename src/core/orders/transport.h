@@ -1,0 +1,28 @@
+// Naval and air transport orders: ships load and land formations, air wings
+// lift, drop, supply, interdict and bomb. The order machine starts these
+// orders; the routines here carry them out when the do button is pressed.
+#pragma once
+
+namespace mf {
+
+// The formation an air wing is lifting in the airlift under way.
+extern int AirliftUnit;
+// 0: the lifted formation can jump; 1: it has troops that cannot and must land.
+extern int AirliftDrop;
+// The SHQ whose stock pays for the air supply under way.
+extern int AirSupplyShq;
+
+// "[U]nload" in a town: the ship's cargo goes straight into the town's stack.
+void doUnloadTown();
+// The do button of a load: the selected formation boards the ship of the order.
+void doLoad();
+// The do button of an unload on a shore: landing or invasion of the selected hex.
+void doLanding();
+// The do button of an airlift: the lifted formation lands or jumps on the selected hex.
+void doAirlift();
+// The do button of an air supply: the selected formation is supplied from the air.
+void doAirsupply();
+// The do button of an interdiction or a strategic bombing on the selected hex.
+void doAirMission();
+
+}  // namespace mf
