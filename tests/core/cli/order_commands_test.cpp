@@ -7,22 +7,14 @@
 #include <string>
 
 #include "model/game_state.h"
+#include "script_fixture.h"
 #include "script_runner.h"
 #include "support/core_test.h"
 
 namespace mf::cli {
 namespace {
 
-class OrderCommandsTest : public test::CoreTest {
- protected:
-  int Run(const std::string& text) {
-    out.str("");
-    err.str("");
-    return RunScriptText(text, "t.mfs", tempDir, out, err);
-  }
-  std::ostringstream out;
-  std::ostringstream err;
-};
+class OrderCommandsTest : public ScriptTest {};
 
 // Red and Blue at one machine, no fog; Red's rifles (weight 1, soft attack
 // 10, hit points 20, 3 MP) at (3, 3) on Red's land, 3 MP left after start.

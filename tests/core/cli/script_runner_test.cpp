@@ -1,5 +1,6 @@
 // The script runner, run in-process: what it prints, and every way a script
 // fails with its one line on the error stream.
+#include "script_fixture.h"
 #include "script_runner.h"
 
 #include <gtest/gtest.h>
@@ -17,17 +18,7 @@ namespace fs = std::filesystem;
 namespace mf::cli {
 namespace {
 
-class ScriptRunnerTest : public test::CoreTest {
- protected:
-  // Runs script text from this test's folder; keeps what it printed.
-  int Run(const std::string& text) {
-    out.str("");
-    err.str("");
-    return RunScriptText(text, "t.mfs", tempDir, out, err);
-  }
-  std::ostringstream out;
-  std::ostringstream err;
-};
+class ScriptRunnerTest : public ScriptTest {};
 
 TEST_F(ScriptRunnerTest, CommentsAndBlankLinesDoNothing) {
   EXPECT_EQ(Run("# nothing here\n\n   \n# still nothing\n"), 0);

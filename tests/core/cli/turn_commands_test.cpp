@@ -6,22 +6,14 @@
 #include <string>
 
 #include "model/game_state.h"
+#include "script_fixture.h"
 #include "script_runner.h"
 #include "support/core_test.h"
 
 namespace mf::cli {
 namespace {
 
-class TurnCommandsTest : public test::CoreTest {
- protected:
-  int Run(const std::string& text) {
-    out.str("");
-    err.str("");
-    return RunScriptText(text, "t.mfs", tempDir, out, err);
-  }
-  std::ostringstream out;
-  std::ostringstream err;
-};
+class TurnCommandsTest : public ScriptTest {};
 
 const char* const kTwoRegimes =
     "new 10 10\n"
