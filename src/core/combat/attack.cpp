@@ -1,13 +1,107 @@
 #include "combat/attack.h"
 
+#include "combat/battle_state.h"
+#include "combat/battle_window.h"
+#include "combat/losses.h"
+#include "engine/news.h"
+#include "model/arith.h"
 #include "model/game_state.h"
 #include "model/hex_geometry.h"
+#include "model/rnd.h"
 
 namespace mf {
 
-// The battle itself comes with the combat rules; until then an attack is
-// prepared and sent off, and nothing is fought.
-void doAttack() {}
+namespace {
+
+constexpr int kMarkBombardment = 7;
+
+// Steps 1 to 3 of an attacker's turn in a round: who it is, what the
+// second round costs it, and what a fight over a town does to the town.
+bool StartTurn(Engagement& e, int pass) {
+  BattleState& b = TheBattle;
+  e.index = pass;
+  e.attacker = AttackerUnit(pass);
+  if (e.attacker == 0) return false;  // an entry whose slot has emptied
+  e.ax = static_cast<int>(UI.AttackerX[pass]);
+  e.ay = static_cast<int>(UI.AttackerY[pass]);
+  e.aslot = static_cast<int>(UI.AttackerSlot[pass]);
+  UnitRec& a = Unit[e.attacker];
+  if (b.round == 2) {
+    a.MP = static_cast<Long>(a.MP - EV(534));
+    if (a.MP > EV(535)) a.MP = EV(535);
+    a.FromX = b.tx;
+    a.FromY = b.ty;
+  }
+  // Every round of fighting over a town lowers its damage figure; the
+  // rules have it so.
+  HexRec& h = Hex[b.tx][b.ty];
+  if (b.round > 1 && h.Pop > 0) h.Damage = static_cast<Short>(Int(h.Damage * 0.85));
+  return true;
+}
+
+}  // namespace
+
+void doAttack() {
+  if (UI.AttackerCount < 1) return;
+  if (!ValidHex(static_cast<int>(UI.OrdX), static_cast<int>(UI.OrdY))) return;
+
+  BattleState& b = TheBattle;
+  b = BattleState{};
+  b.landing = UI.Order.LandingOrder == 1;
+  b.tx = static_cast<int>(UI.OrdX);
+  b.ty = static_cast<int>(UI.OrdY);
+  const bool computer = ValidRegime(static_cast<int>(Game.CurRegime)) && Regime[Game.CurRegime].AI > 0;
+  b.shown = !(computer && Game.ShowAIMoves == 0);
+  b.delay = b.shown ? 50 : 0;
+  ZeroBattleTallies();
+  OpenBattleWindow(b.shown);
+
+  Rnd();  // one draw is thrown away before every battle
+  PrepareBattle();
+  addtolist("Initiating Battle", b.delay);
+
+  b.round = 0;
+  while (b.round <= b.roundLimit && b.stackSize > 0) {
+    b.round += 1;
+    addtolist("", b.delay);
+    addtolist("______________________________Battle Round " + Str(b.round), b.delay);
+    addtolist("", b.delay);
+    b.engagements = 0;
+    // The pass runs to the count of the round's start: entries behind a
+    // shrunken list still act with what they hold.
+    const int countAtStart = static_cast<int>(UI.AttackerCount);
+    for (int pass = 1; pass <= countAtStart && pass <= kAttackerCap; ++pass) {
+      Engagement e;
+      if (!StartTurn(e, pass)) continue;
+      ChooseTarget(e);
+      DecideKind(e);
+      if (b.round == 1)
+        AddNews(static_cast<int>(Hex[b.tx][b.ty].Owner), 0, kNewsMapMark, "", b.tx, b.ty,
+                e.bombarding ? kMarkBombardment : e.direction);
+      if (e.kind == 0 || e.target == 0) continue;
+
+      const UnitRec& a = Unit[e.attacker];
+      const UnitRec& t = Unit[e.target];
+      if (e.bombarding) {
+        addtolist("_____________" + a.Name + " Bombards " + t.Name, b.delay);
+      } else {
+        addtolist("_____________" + a.Name + " Engages " + t.Name, b.delay);
+        b.engagements += 1;
+      }
+      addtolist("", 0);
+      addtolist(KindTitle(e.kind), b.delay);
+
+      WorkFigures(e);
+      ApplyModifiers(e);
+      LogEngagement(e);
+      Fire(e);
+      if (Aftermath(e, pass)) break;
+    }
+  }
+
+  LogTallies();
+  CloseBattleWindow(b.shown);
+}
 
 bool artyok2(int slot) {
   if (!ValidHex(UI.SelX, UI.SelY) || slot < 1 || slot > kStackSlots) return false;
