@@ -2,11 +2,15 @@
 
 #include <map>
 
+#include "battle_view.h"
 #include "clear_dialog_view.h"
 #include "diplomatics_view.h"
 #include "new_turn_view.h"
+#include "newunit_view.h"
+#include "officerpool_view.h"
 #include "research_view.h"
 #include "start_game_view.h"
+#include "transfer_view.h"
 #include "urban_production_view.h"
 
 namespace mf::app {
@@ -26,11 +30,15 @@ DialogViewFn FindDialogView(const std::string& name) {
 
 void RegisterAllDialogViews() {
   // Each dialog module adds its registration here.
+  RegisterBattleView();
   RegisterClearDialogView();
   RegisterDiplomaticsView();
   RegisterNewTurnView();
+  RegisterNewUnitView();
+  RegisterOfficerPoolView();
   RegisterResearchView();
   RegisterStartGameView();
+  RegisterTransferView();
   RegisterUrbanProductionView();
 }
 

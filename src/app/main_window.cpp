@@ -19,6 +19,7 @@
 #include "model/clear_dialog.h"
 #include "model/game_state.h"
 #include "model/hex_geometry.h"
+#include "orders/command.h"
 #include "orders/order_state.h"
 #include "platform/platform.h"
 #include "qt_canvas.h"
@@ -151,6 +152,8 @@ MainWindow::MainWindow(QtPlatform* platform) : platform_(platform) {
     bigPicture_ = big;
     big->installEventFilter(this);
   }
+  // A double click on the formation's name renames it.
+  if (QLabel* name = panel_->findChild<QLabel*>("unitName")) name->installEventFilter(this);
   // The move-cost line follows the mouse over the map while a move is under way.
   map_->view()->setMouseTracking(true);
   map_->view()->installEventFilter(this);
@@ -532,6 +535,10 @@ bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
       ShowOrderLine();
     }
     return false;
+  }
+  if (event->type() == QEvent::MouseButtonDblClick && watched->objectName() == "unitName") {
+    Act([] { mf::doRename(); });
+    return true;
   }
   if (watched == bigPicture_ && event->type() == QEvent::MouseButtonPress) {
     // The big picture is the selected formation: the same as a press on its counter.

@@ -7,6 +7,7 @@
 #include <sstream>
 #include <vector>
 
+#include "combat/battle_window.h"
 #include "engine/show_supply.h"
 #include "engine/turn_cycle.h"
 #include "files/field_registry.h"
@@ -14,6 +15,7 @@
 #include "model/arith.h"
 #include "model/reset.h"
 #include "model/rnd.h"
+#include "orders/command.h"
 #include "orders/order_state.h"
 #include "platform/scripted_platform.h"
 #include "script_tokenizer.h"
@@ -326,6 +328,13 @@ bool Panel(Run&, const Words& a, std::string* why) {
   return true;
 }
 
+// A double click on the selected formation's name in the side panel: the
+// rename prompt, answered from `answer`.
+bool Rename(Run&, const Words&, std::string*) {
+  doRename();
+  return true;
+}
+
 // The script's commands. A command without a handler belongs to a part of the
 // game that is not built yet: it fails loudly, so that a script never passes
 // by skipping what it asked for.
@@ -352,6 +361,7 @@ const Command kCommands[] = {
     {"press", 1, 1, "press NAME", &Press},
     {"key", 1, 1, "key NAME", &Key},
     {"panel", 1, 1, "panel SLOT", &Panel},
+    {"rename", 0, 0, "rename", &Rename},
 };
 
 // Runs one command line; false with a reason when it failed.
@@ -384,6 +394,17 @@ bool RunLine(Run& run, const std::string& line, std::string* why) {
   return false;
 }
 
+// Prints every line of a battle's log as it is written, "BATTLE " + line,
+// shown battle or not; the hook goes when the run ends.
+struct BattleLogPrinter {
+  explicit BattleLogPrinter(std::ostream& out) {
+    SetBattleWindowHook([&out](BattleWindowChange change) {
+      if (change == BattleWindowChange::kLine) out << "BATTLE " << TheBattleWindow().lines.back() << "\n";
+    });
+  }
+  ~BattleLogPrinter() { SetBattleWindowHook({}); }
+};
+
 // Puts the platform back to the built-in one however the run ends.
 struct PlatformGuard {
   explicit PlatformGuard(Platform* p) { InstallPlatform(p); }
@@ -397,6 +418,7 @@ int RunScriptText(const std::string& text, const std::string& name, const std::s
   Run run(name, baseDir, out);
   run.platform.printer = [&out](const PlatformEvent& e) { out << FormatEvent(e) << "\n"; };
   PlatformGuard guard(&run.platform);
+  BattleLogPrinter battleLog(out);
   StartFresh();
 
   std::istringstream lines(text);

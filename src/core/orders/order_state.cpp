@@ -13,6 +13,8 @@
 #include "model/arith.h"
 #include "model/game_state.h"
 #include "model/hex_geometry.h"
+#include "orders/command.h"
+#include "orders/entrench.h"
 #include "orders/flood.h"
 #include "orders/move_allowance.h"
 #include "orders/movement.h"

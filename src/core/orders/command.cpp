@@ -1,0 +1,178 @@
+#include "orders/command.h"
+
+#include <string>
+
+#include "model/arith.h"
+#include "model/game_state.h"
+#include "orders/new_units.h"
+#include "orders/order_state.h"
+#include "platform/platform.h"
+#include "view/counter.h"
+#include "view/selection.h"
+
+namespace mf {
+namespace {
+
+void Say(const std::string& text) { Plat().ShowMessage(text, ""); }
+bool Editing() { return UI.EditMode == 1; }
+
+int UnitAt(long x, long y, long slot) {
+  if (!ValidHex(static_cast<int>(x), static_cast<int>(y)) || slot < 1 || slot > kStackSlots) return 0;
+  const long u = Hex[x][y].Unit[slot];
+  return ValidUnit(static_cast<int>(u)) ? static_cast<int>(u) : 0;
+}
+
+// The change of command is over: the selection goes back to the formation
+// that got (or did not get) its new boss, and the buttons are as at rest.
+void EndBossOrder() {
+  UI.Order.BossOrder = 0;
+  ReturnSelectionToOrigin();
+  RequestRedraw(1);
+  RefreshButtons();
+  Buttons.doButton.enabled = false;
+  Buttons.orderLineShown = false;
+  Buttons.cancel.enabled = false;
+  Helper();
+}
+
+// Characters of a UTF-8 text, and its first n characters.
+std::size_t Chars(const std::string& s) {
+  std::size_t n = 0;
+  for (unsigned char c : s)
+    if ((c & 0xC0) != 0x80) ++n;
+  return n;
+}
+std::string FirstChars(const std::string& s, std::size_t n) {
+  std::size_t seen = 0;
+  for (std::size_t i = 0; i < s.size(); ++i) {
+    if ((static_cast<unsigned char>(s[i]) & 0xC0) != 0x80) {
+      if (seen == n) return s.substr(0, i);
+      ++seen;
+    }
+  }
+  return s;
+}
+
+// Takes unit u out of whatever stack holds it, moving the higher slots down.
+void LeaveStack(int u) {
+  auto closeUp = [u](int x, int y) {
+    Long* stack = Hex[x][y].Unit;
+    for (int slot = 1; slot <= kStackSlots; ++slot) {
+      if (stack[slot] != u) continue;
+      for (int k = slot; k < kStackSlots; ++k) stack[k] = stack[k + 1];
+      stack[kStackSlots] = 0;
+      return true;
+    }
+    return false;
+  };
+  // The selected hex first: that is where a disbanded formation stands.
+  if (ValidHex(static_cast<int>(UI.SelX), static_cast<int>(UI.SelY)) &&
+      closeUp(static_cast<int>(UI.SelX), static_cast<int>(UI.SelY)))
+    return;
+  for (int x = 1; x <= Game.MapW && x <= kMapCap; ++x)
+    for (int y = 1; y <= Game.MapH && y <= kMapCap; ++y)
+      if (closeUp(x, y)) return;
+}
+
+void Disband(int u, int depth) {
+  if (!ValidUnit(u) || Unit[u].Regime == 0) return;
+  UnitRec& un = Unit[u];
+  if (un.Officer >= 1 && un.Officer <= kOfficerCap) Officer[un.Officer].InPool = 1;
+  un.Officer = 0;
+  LeaveStack(u);
+  // The headquarters' places in the chain are freed while the unit still
+  // belongs to its regime.
+  if (un.Thq > 0) DropThq(u);
+  if (un.Shq > 0) DropShq(u);
+  // What a ship carries goes down with it.
+  const int cargo = static_cast<int>(un.Cargo);
+  un.Cargo = 0;
+  if (depth < 2 && cargo != u) Disband(cargo, depth + 1);
+  un.Regime = 0;
+  un.Name.clear();
+}
+
+}  // namespace
+
+void doNewBoss() {
+  const int source = UnitAt(UI.OrdX, UI.OrdY, UI.OrdSlot);
+  const int target = UnitAt(UI.SelX, UI.SelY, UI.SelSlot);
+  if (source == 0 || target == 0 || target == source) {
+    EndBossOrder();
+    return;
+  }
+  // A boss is chosen among the formations on the regime's own ground.
+  if (Hex[UI.SelX][UI.SelY].Owner != Unit[source].Regime) {
+    EndBossOrder();
+    return;
+  }
+  const bool fits = UI.Order.BossOrder == 1 ? Unit[target].Thq > 0 : Unit[target].Shq > 0;
+  if (!fits) {
+    Say("Not possible or operation canceled. Only formations can be assigned to THQs. Only THQs to SHQS.");
+    return;
+  }
+  UnitRec& un = Unit[source];
+  // Leaving one commander for another throws the staff into disorder; a
+  // formation that had nobody above it is only slowed down.
+  if (un.Boss > 0 && !Editing()) {
+    un.Disruption += EV(544);
+    if (un.Disruption > 100) un.Disruption = 100;
+  }
+  un.Boss = target;
+  un.MP = 0;
+  if (!Editing()) un.Readiness = static_cast<Long>(Int(un.Readiness * 0.8));
+  Counter(source);
+  // A THQ under another SHQ may wear another badge: its formations show it.
+  if (un.Thq > 0) {
+    for (int v = 1; v <= kUnitCap; ++v)
+      if (v != source && Unit[v].Regime != 0 && Unit[v].Boss == source) Counter(v);
+    RequestRedraw(2);
+  }
+  EndBossOrder();
+}
+
+void DisbandUnit(int u) {
+  Disband(u, 0);
+  UI.SelCount = StackCount(static_cast<int>(UI.SelX), static_cast<int>(UI.SelY));
+  if (UI.SelSlot > UI.SelCount) UI.SelSlot = UI.SelCount;
+  UI.PanelDirty = true;
+  RequestRedraw(1);
+}
+
+void doDisband() {
+  const int u = UnitAt(UI.SelX, UI.SelY, UI.SelSlot);
+  if (u == 0) return;
+  if (!Plat().AskYesNo("Do you want to disband " + Unit[u].Name + "?", "")) return;
+  DisbandUnit(u);
+  RefreshButtons();
+}
+
+void doRename() {
+  if (UI.SelSlot <= 0) return;
+  const int u = UnitAt(UI.SelX, UI.SelY, UI.SelSlot);
+  if (u == 0) return;
+  if (!Editing() && Hex[UI.SelX][UI.SelY].Owner != Game.CurRegime) return;
+  const std::string old = Unit[u].Name;
+  std::string offer = old;
+  for (;;) {
+    std::string name = Plat().InputPrompt("Give new name for unit", "Rename", offer);
+    if (Chars(name) > 20) {
+      Say("Max 20 characters");
+      offer = FirstChars(name, 20);
+      continue;
+    }
+    // The old name offered back and taken as it stands changes nothing.
+    if (name == old) return;
+    if (name.find('"') != std::string::npos) {
+      Say("Dont use a quote please.");
+      offer = old;
+      continue;
+    }
+    if (Chars(name) < 3) return;
+    Unit[u].Name = name;
+    UI.PanelDirty = true;
+    return;
+  }
+}
+
+}  // namespace mf
