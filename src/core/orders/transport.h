@@ -1,6 +1,9 @@
 // Naval and air transport orders: ships load and land formations, air wings
 // lift, drop, supply, interdict and bomb. The order machine starts these
 // orders; the routines here carry them out when the do button is pressed.
+//
+// A ship carries one formation (or one air wing) as its Unit.Cargo, and the
+// cargo stands in no stack until it is put ashore.
 #pragma once
 
 namespace mf {
@@ -24,5 +27,17 @@ void doAirlift();
 void doAirsupply();
 // The do button of an interdiction or a strategic bombing on the selected hex.
 void doAirMission();
+
+// What a formation weighs aboard: Weight x quantity over its four classes.
+long UnitLoadWeight(int unit);
+// What ship B can take of formation L: its cargo ships' Carry Cap x their
+// quantity for a land formation, its carriers' for an air wing.
+long ShipCapacity(int ship, int load);
+
+// The first free stack slot of hex (x, y), 0 when the hex is full.
+int FirstFreeSlot(int x, int y);
+// Takes `unit` out of the stack of hex (x, y); the stack closes up (the
+// slots above it move down one). False when it does not stand there.
+bool LeaveStack(int x, int y, int unit);
 
 }  // namespace mf
