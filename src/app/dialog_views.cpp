@@ -5,6 +5,7 @@
 #include "battle_view.h"
 #include "clear_dialog_view.h"
 #include "diplomatics_view.h"
+#include "event_view.h"
 #include "new_turn_view.h"
 #include "newunit_view.h"
 #include "officerpool_view.h"
@@ -33,6 +34,7 @@ void RegisterAllDialogViews() {
   RegisterBattleView();
   RegisterClearDialogView();
   RegisterDiplomaticsView();
+  RegisterEventView();
   RegisterNewTurnView();
   RegisterNewUnitView();
   RegisterOfficerPoolView();

@@ -17,6 +17,7 @@
 #include "model/rnd.h"
 #include "orders/command.h"
 #include "orders/order_state.h"
+#include "platform/paths.h"
 #include "platform/scripted_platform.h"
 #include "script_tokenizer.h"
 #include "session.h"
@@ -335,6 +336,25 @@ bool Rename(Run&, const Words&, std::string*) {
   return true;
 }
 
+// The program folder moves to P for the rest of the run, so that a campaign
+// made by the script finds its next files in P's scenarios folder (made if
+// missing). A folder without pictures of its own borrows those of the
+// program folder it replaces, so that officers still find their portraits.
+bool ProgramDirCommand(Run& run, const Words& a, std::string* why) {
+  const fs::path dir = fs::path(run.Path(a[0])).lexically_normal();
+  std::error_code ec;
+  fs::create_directories(dir / "scenarios", ec);
+  if (ec || !fs::is_directory(dir / "scenarios", ec)) {
+    *why = "programdir: cannot make the folder " + (dir / "scenarios").string();
+    return false;
+  }
+  const fs::path art = fs::path(ProgramDir()) / "default";
+  if (!fs::exists(dir / "default", ec) && fs::is_directory(art, ec))
+    fs::create_directory_symlink(fs::absolute(art, ec), dir / "default", ec);
+  SetProgramDir(dir.string());
+  return true;
+}
+
 // The script's commands. A command without a handler belongs to a part of the
 // game that is not built yet: it fails loudly, so that a script never passes
 // by skipping what it asked for.
@@ -362,6 +382,7 @@ const Command kCommands[] = {
     {"key", 1, 1, "key NAME", &Key},
     {"panel", 1, 1, "panel SLOT", &Panel},
     {"rename", 0, 0, "rename", &Rename},
+    {"programdir", 1, 1, "programdir PATH", &ProgramDirCommand},
 };
 
 // Runs one command line; false with a reason when it failed.
@@ -405,6 +426,13 @@ struct BattleLogPrinter {
   ~BattleLogPrinter() { SetBattleWindowHook({}); }
 };
 
+// Puts the program folder back however the run ends (a script may move it).
+struct ProgramDirGuard {
+  ProgramDirGuard() : dir(ProgramDir()) {}
+  ~ProgramDirGuard() { SetProgramDir(dir); }
+  std::string dir;
+};
+
 // Puts the platform back to the built-in one however the run ends.
 struct PlatformGuard {
   explicit PlatformGuard(Platform* p) { InstallPlatform(p); }
@@ -418,6 +446,7 @@ int RunScriptText(const std::string& text, const std::string& name, const std::s
   Run run(name, baseDir, out);
   run.platform.printer = [&out](const PlatformEvent& e) { out << FormatEvent(e) << "\n"; };
   PlatformGuard guard(&run.platform);
+  ProgramDirGuard programDir;
   BattleLogPrinter battleLog(out);
   StartFresh();
 
