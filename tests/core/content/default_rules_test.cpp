@@ -75,20 +75,20 @@ TEST_F(DefaultRules, ATownOf2500FeedsTheGeneratorsStartingForce) {
 
 // Occupation power of a land formation: infantry (Hit Points / 20) x Soft
 // Attack x quantity + mobile Soft Attack x quantity + ... For 40 rifle
-// infantry (40 hit points, soft attack 8) and 3 trucks (soft attack 0):
-// (40 / 20) x 8 x 40 + 0 x 3 = 640, well past row 101's 250.
+// infantry (80 hit points, soft attack 40) and 3 trucks (soft attack 0):
+// (80 / 20) x 40 x 40 + 0 x 3 = 6400, well past row 101's 250.
 TEST_F(DefaultRules, TheGeneratorsTHQCanOccupyLand) {
   EXPECT_EQ(EV(101), 250);
-  EXPECT_EQ(Type[1].Attr[kHitPoints], 40);
-  EXPECT_EQ(Type[1].Attr[kSoftAttack], 8);
+  EXPECT_EQ(Type[1].Attr[kHitPoints], 80);
+  EXPECT_EQ(Type[1].Attr[kSoftAttack], 40);
   EXPECT_EQ(Type[2].Attr[kSoftAttack], 0);
   const double power =
       Type[1].Attr[kHitPoints] / 20.0 * Type[1].Attr[kSoftAttack] * 40 + Type[2].Attr[kSoftAttack] * 3.0;
-  EXPECT_EQ(power, 640.0);
+  EXPECT_EQ(power, 6400.0);
   EXPECT_GE(power, EV(101));
-  // Sixteen riflemen are the least that can take land: 2 x 8 x 16 = 256; fifteen give 240.
-  EXPECT_GE(2 * 8 * 16, EV(101));
-  EXPECT_LT(2 * 8 * 15, EV(101));
+  // Two riflemen are the least that can take land: 4 x 40 x 2 = 320; one gives 160.
+  EXPECT_GE(4 * 40 * 2, EV(101));
+  EXPECT_LT(4 * 40 * 1, EV(101));
 }
 
 // Three trucks carry 3 x 40 = 120 of the 400 weight of 40 riflemen: the
@@ -100,9 +100,11 @@ TEST_F(DefaultRules, TrucksAndInfantryWeights) {
   EXPECT_EQ(Type[2].Attr[kMovementCap], 6);
   EXPECT_LT(3 * Type[2].Attr[kCarryCap], 40 * Type[1].Attr[kWeight]);
   EXPECT_GE(10 * Type[2].Attr[kCarryCap], 40 * Type[1].Attr[kWeight]);
-  // A town of 2500 raises two and a half riflemen a turn (cost 1000).
-  EXPECT_EQ(Type[1].Cost, 1000);
-  EXPECT_EQ(Int(2500.0 / Type[1].Cost), 2);
+  // A town of 2500 raises six riflemen a turn (cost 400), and keeps 100
+  // points towards the next.
+  EXPECT_EQ(Type[1].Cost, 400);
+  EXPECT_EQ(Int(2500.0 / Type[1].Cost), 6);
+  EXPECT_EQ(2500 - 6 * Type[1].Cost, 100);
 }
 
 TEST_F(DefaultRules, EveryTheaterAndClassHasTypes) {
