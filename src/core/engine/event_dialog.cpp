@@ -7,12 +7,6 @@
 namespace mf {
 namespace {
 
-std::size_t Chars(const std::string& s) {
-  std::size_t n = 0;
-  for (unsigned char c : s)
-    if ((c & 0xC0) != 0x80) ++n;
-  return n;
-}
 
 // "3" as a choice number 1..5, else 0.
 int ChoiceNumber(const std::string& text) {
@@ -43,7 +37,7 @@ void EventDialog::Prepare(int e) {
   if (ev.Type == kEventChoice) {
     for (int c = 0; c < kChoices; ++c) {
       choiceCaption[c] = ev.DataText[c + 1];
-      choiceShown[c] = Chars(choiceCaption[c]) > 1;
+      choiceShown[c] = Len(choiceCaption[c]) > 1;
       anyChoice = anyChoice || choiceShown[c];
     }
   }

@@ -41,13 +41,6 @@ void RaiseBookVar(long b, long by) {
   if (ValidBookVar(b)) Game.BookVar[b] = Clamp(static_cast<std::int64_t>(Game.BookVar[b]) + by);
 }
 
-// Length in characters, as the editor counts a story or a button's text.
-std::size_t Chars(const std::string& s) {
-  std::size_t n = 0;
-  for (unsigned char c : s)
-    if ((c & 0xC0) != 0x80) ++n;
-  return n;
-}
 
 std::string Lower(std::string s) {
   for (char& c : s)
@@ -237,7 +230,7 @@ void ShapeOfficer(const EventRec& ev, int u) {
   if (o < 1 || o > kOfficerCap) return;
   OfficerRec& of = Officer[o];
   const std::string& name = ev.DataText[2];
-  if (Lower(name) != "random" && Chars(name) > 1) of.Name = name;
+  if (Lower(name) != "random" && Len(name) > 1) of.Name = name;
   of.Land = ev.Data[8];
   of.Air = ev.Data[9];
   of.Sea = ev.Data[10];
@@ -339,7 +332,7 @@ bool TakeEffect(int e) {
 void RunEvents() {
   const int last = Held(Game.EventCount, kEventCap);
   for (int e = 1; e <= last; ++e) {
-    if (Chars(Event[e].Story) <= 1) continue;
+    if (Len(Event[e].Story) <= 1) continue;
     if (!ConditionsHold(Event[e])) continue;
     if (!TakeEffect(e)) continue;
     Event[e].FiredTurn = Game.Turn;

@@ -13,19 +13,12 @@ void Say(const std::string& text) { Plat().ShowMessage(text, ""); }
 
 bool ValidOfficer(long o) { return o >= 1 && o <= kOfficerCap; }
 
-// Characters of a UTF-8 text (a name of "Ö" is one character, not two).
-std::size_t Chars(const std::string& s) {
-  std::size_t n = 0;
-  for (unsigned char c : s)
-    if ((c & 0xC0) != 0x80) ++n;
-  return n;
-}
 
 // The k-th (1-based) name of a list that is longer than one character.
 const std::string& NthName(const std::string (&names)[kPeopleNames + 1], long k) {
   static const std::string none;
   for (int i = 1; i <= kPeopleNames; ++i) {
-    if (Chars(names[i]) > 1 && --k == 0) return names[i];
+    if (Len(names[i]) > 1 && --k == 0) return names[i];
   }
   return none;
 }
@@ -33,7 +26,7 @@ const std::string& NthName(const std::string (&names)[kPeopleNames + 1], long k)
 long CountNames(const std::string (&names)[kPeopleNames + 1]) {
   long n = 0;
   for (int i = 1; i <= kPeopleNames; ++i)
-    if (Chars(names[i]) > 1) ++n;
+    if (Len(names[i]) > 1) ++n;
   return n;
 }
 

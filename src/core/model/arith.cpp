@@ -77,4 +77,22 @@ std::string Trim(std::string_view text) {
   return std::string(text.substr(b, e - b));
 }
 
+std::size_t Len(std::string_view text) {
+  std::size_t n = 0;
+  for (unsigned char c : text)
+    if ((c & 0xC0) != 0x80) ++n;  // continuation bytes belong to the character before
+  return n;
+}
+
+std::string Left(std::string_view text, std::size_t n) {
+  std::size_t seen = 0;
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    if ((static_cast<unsigned char>(text[i]) & 0xC0) != 0x80) {
+      if (seen == n) return std::string(text.substr(0, i));
+      ++seen;
+    }
+  }
+  return std::string(text);
+}
+
 }  // namespace mf

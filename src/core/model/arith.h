@@ -28,5 +28,9 @@ std::int32_t ValLong(std::string_view text);
 std::string Trim(std::string_view text);
 // The number as text without the leading blank: "5", "-5".
 std::string NumText(std::int64_t n);
+// Characters of a UTF-8 text (what a player counts), not its bytes.
+std::size_t Len(std::string_view text);
+// The first n characters of a UTF-8 text.
+std::string Left(std::string_view text, std::size_t n);
 
 }  // namespace mf

@@ -35,23 +35,6 @@ void EndBossOrder() {
   Helper();
 }
 
-// Characters of a UTF-8 text, and its first n characters.
-std::size_t Chars(const std::string& s) {
-  std::size_t n = 0;
-  for (unsigned char c : s)
-    if ((c & 0xC0) != 0x80) ++n;
-  return n;
-}
-std::string FirstChars(const std::string& s, std::size_t n) {
-  std::size_t seen = 0;
-  for (std::size_t i = 0; i < s.size(); ++i) {
-    if ((static_cast<unsigned char>(s[i]) & 0xC0) != 0x80) {
-      if (seen == n) return s.substr(0, i);
-      ++seen;
-    }
-  }
-  return s;
-}
 
 // Takes unit u out of whatever stack holds it, moving the higher slots down.
 void LeaveStack(int u) {
@@ -156,9 +139,9 @@ void doRename() {
   std::string offer = old;
   for (;;) {
     std::string name = Plat().InputPrompt("Give new name for unit", "Rename", offer);
-    if (Chars(name) > 20) {
+    if (Len(name) > 20) {
       Say("Max 20 characters");
-      offer = FirstChars(name, 20);
+      offer = Left(name, 20);
       continue;
     }
     // The old name offered back and taken as it stands changes nothing.
@@ -168,7 +151,7 @@ void doRename() {
       offer = old;
       continue;
     }
-    if (Chars(name) < 3) return;
+    if (Len(name) < 3) return;
     Unit[u].Name = name;
     UI.PanelDirty = true;
     return;

@@ -26,30 +26,14 @@ long CostOf(int kind) {
   }
 }
 
-std::size_t Chars(const std::string& s) {
-  std::size_t n = 0;
-  for (unsigned char c : s)
-    if ((c & 0xC0) != 0x80) ++n;
-  return n;
-}
-std::string FirstChars(const std::string& s, std::size_t n) {
-  std::size_t seen = 0;
-  for (std::size_t i = 0; i < s.size(); ++i) {
-    if ((static_cast<unsigned char>(s[i]) & 0xC0) != 0x80) {
-      if (seen == n) return s.substr(0, i);
-      ++seen;
-    }
-  }
-  return s;
-}
 
 // The headquarters' name: offered, and with askName put to the player. A
 // name shorter than 2 characters is no name and "" comes back; a longer
 // one than 16 is cut.
 std::string HqName(bool askName, const std::string& question, const std::string& offer) {
   std::string name = askName ? Plat().InputPrompt(question, "", offer) : offer;
-  if (Chars(name) < 2) return "";
-  if (Chars(name) > 16) name = FirstChars(name, 16);
+  if (Len(name) < 2) return "";
+  if (Len(name) > 16) name = Left(name, 16);
   return name;
 }
 

@@ -123,3 +123,18 @@ TEST(Rnd, DrawsLieInZeroUpToButNotIncludingOne) {
 
 }  // namespace
 }  // namespace mf
+
+namespace mf {
+namespace {
+
+TEST(TextLength, CountsCharactersNotBytes) {
+  EXPECT_EQ(Len(""), 0u);
+  EXPECT_EQ(Len("Ærø"), 3u);  // six bytes, three characters
+  EXPECT_EQ(Len("Guards"), 6u);
+  EXPECT_EQ(Left("Zoë Brontë", 3), "Zoë");
+  EXPECT_EQ(Left("Zoë", 0), "");
+  EXPECT_EQ(Left("Zoë", 10), "Zoë");
+}
+
+}  // namespace
+}  // namespace mf
