@@ -252,7 +252,10 @@ std::vector<RecordDef> BuildRegistry() {
                      UIF(ResumeTurn), UIF(ExitAfterTurnForm), UIF(PictureW), UIF(PictureH), UIF(ScrollMaxX),
                      UIF(ScrollMaxY), UIF(ScrollLargeX), UIF(ScrollLargeY), UIF(ScrollSmall), UIF(ScrollX),
                      UIF(ScrollY), UIF(ShowScrollX), UIF(ShowScrollY), UIF(ShowEditorPanel), UIF(WindowWidth),
-                     UIF(HelpText), UIF(RegimeLabel), UIF(TurnLabel)}));
+                     UIF(ViewW), UIF(ViewH), UIF(HelpText), UIF(RegimeLabel), UIF(TurnLabel),
+                     // What the window shows.
+                     UIF(MapShown), UIF(PanelsShown), UIF(MapControlsShown), UIF(BusyPointer),
+                     UIF(RedrawRequest), UIF(PanelDirty), UIF(WindowTitle), UIF(AILogShown)}));
 #undef OVL
 #undef ORD
 #undef UIF

@@ -309,6 +309,15 @@ TEST_F(RegistryTest, BooleansReadAsMinusOneAndZero) {
   EXPECT_EQ(Get("UI.HideEditor"), "0");
   UI.ResumeTurn = true;
   EXPECT_EQ(Get("UI.ResumeTurn"), "-1");
+  // What the window shows, so scripts can check it.
+  UI.MapShown = false;
+  EXPECT_EQ(Get("UI.MapShown"), "0");
+  Set("UI.PanelsShown", "0");
+  EXPECT_FALSE(UI.PanelsShown);
+  Set("UI.WindowTitle", "Ashfall");
+  EXPECT_EQ(UI.WindowTitle, "Ashfall");
+  UI.RedrawRequest = 2;
+  EXPECT_EQ(Get("UI.RedrawRequest"), "2");
   Set("UI.ExitAfterTurnForm", "TRUE");
   EXPECT_TRUE(UI.ExitAfterTurnForm);
 }
