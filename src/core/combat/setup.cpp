@@ -6,6 +6,7 @@
 #include "combat/battle_state.h"
 #include "combat/battle_window.h"
 #include "combat/command_figures.h"
+#include "combat/frontage.h"
 #include "model/arith.h"
 #include "model/hex_geometry.h"
 #include "model/rnd.h"
@@ -283,20 +284,11 @@ void AttackerFrontage(const UnitRec& a) {
     b.attArmFront = arm < third ? arm : third;
     remaining -= b.attArmFront;
   }
-  for (long long k = 1; k <= b.frontLimit && remaining > 0; ++k) {
-    if (inf >= b.attInfFront) {
-      b.attInfFront += 1;
-      remaining -= 1;
-    }
-    if (gunsInLine && art >= b.attArtFront) {
-      b.attArtFront += 1;
-      remaining -= 1;
-    }
-    if (arm >= b.attArmFront) {
-      b.attArmFront += 1;
-      remaining -= 1;
-    }
-  }
+  FrontShares f{b.attInfFront, b.attArtFront, b.attArmFront};
+  FillFrontage(f, remaining, b.frontLimit, inf, art, arm, gunsInLine);
+  b.attInfFront = f.inf;
+  b.attArtFront = f.art;
+  b.attArmFront = f.arm;
 }
 
 // The defender's frontage, the same but for its armour: a whole number, and
@@ -326,20 +318,11 @@ void DefenderFrontage(const UnitRec& t) {
       b.defArmFront = static_cast<Long>(CInt(third));
     remaining -= b.defArmFront;
   }
-  for (long long k = 1; k <= b.frontLimit && remaining > 0; ++k) {
-    if (inf >= b.defInfFront) {
-      b.defInfFront += 1;
-      remaining -= 1;
-    }
-    if (gunsInLine && art >= b.defArtFront) {
-      b.defArtFront += 1;
-      remaining -= 1;
-    }
-    if (arm >= b.defArmFront) {
-      b.defArmFront += 1;
-      remaining -= 1;
-    }
-  }
+  FrontShares f{b.defInfFront, b.defArtFront, static_cast<double>(b.defArmFront)};
+  FillFrontage(f, remaining, b.frontLimit, inf, art, arm, gunsInLine);
+  b.defInfFront = f.inf;
+  b.defArtFront = f.art;
+  b.defArmFront = static_cast<Long>(f.arm);
 }
 
 void Frontage(const Engagement& e) {

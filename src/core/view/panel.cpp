@@ -1,5 +1,7 @@
 #include "view/panel.h"
 
+#include "combat/frontage.h"
+
 #include <algorithm>
 
 #include "model/arith.h"
@@ -239,29 +241,11 @@ void HexSupply(int x, int y, int* icon, std::string* text, Colour* colour) {
 void LoneFrontage(int u, double* inf, double* art, double* arm) {
   *inf = *art = *arm = 0;
   if (!ValidUnit(u)) return;
-  const UnitRec& un = Unit[u];
-  const long limit = EV(538);  // one attacker: the whole front is his
-  double remaining = static_cast<double>(limit);
-  const double third = limit / 3.0;
-  const double pInf = static_cast<double>(Attr(un.InfType, kFrontsize)) * un.InfQty;
-  const double pArt = static_cast<double>(Attr(un.ArtType, kFrontsize)) * un.ArtQty;
-  const double pArm = static_cast<double>(Attr(un.ArmType, kFrontsize)) * un.ArmQty;
-  // Guns that reach beyond the next hex stand behind the line.
-  const bool hasInf = un.InfQty > 0;
-  const bool hasArt = un.ArtQty > 0 && Attr(un.ArtType, kArtilleryRange) < 2;
-  const bool hasArm = un.ArmQty > 0;
-  if (hasInf) { *inf = std::min(third, pInf); remaining -= *inf; }
-  if (hasArt) { *art = std::min(third, pArt); remaining -= *art; }
-  if (hasArm) { *arm = std::min(third, pArm); remaining -= *arm; }
-  // Hand out what is left of the front one point at a time; a class may end
-  // one point above what it fills.
-  for (long i = 0; i < limit && remaining > 0; ++i) {
-    bool rose = false;
-    if (hasInf && pInf >= *inf) { *inf += 1; remaining -= 1; rose = true; }
-    if (hasArt && pArt >= *art) { *art += 1; remaining -= 1; rose = true; }
-    if (hasArm && pArm >= *arm) { *arm += 1; remaining -= 1; rose = true; }
-    if (!rose) break;  // nothing more would change in the rounds left
-  }
+  // One attacker: the whole front of engine variable 538 is his.
+  const FrontShares f = LoneFrontageOf(Unit[u], EV(538));
+  *inf = f.inf;
+  *art = f.art;
+  *arm = f.arm;
 }
 
 std::string CoverText(int u) {

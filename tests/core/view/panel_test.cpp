@@ -543,12 +543,13 @@ class PanelFrontTest : public PanelTest {
 
 TEST_F(PanelFrontTest, LoneAttackerFrontage) {
   // Infantry 40 (front 40) and armour 3 (front 30) take a third, 20, each;
-  // the 20 left go out one a round to both: after ten rounds infantry 30,
-  // armour 30, nothing left.
+  // the 10 left go out one a round as in a battle: in the first round the
+  // empty artillery class also takes a point (its 0 is at least its 0), so
+  // infantry and armour reach 30 with nothing left.
   double inf = 0, art = 0, arm = 0;
   LoneFrontage(u, &inf, &art, &arm);
   EXPECT_DOUBLE_EQ(inf, 30);
-  EXPECT_DOUBLE_EQ(art, 0);
+  EXPECT_DOUBLE_EQ(art, 1);
   EXPECT_DOUBLE_EQ(arm, 30);
   // Field guns (front 2 x 10 = 20) stand in the line and take their third:
   // 20, 20, 20 and nothing left.
@@ -564,12 +565,13 @@ TEST_F(PanelFrontTest, LoneAttackerFrontage) {
   EXPECT_DOUBLE_EQ(inf, 30);
   EXPECT_DOUBLE_EQ(art, 0);
   EXPECT_DOUBLE_EQ(arm, 30);
-  // A class may end one above what it fills: 10 infantry alone take 10, then 11.
+  // A class may end one above what it fills: 10 infantry alone take 10, then
+  // 11; the empty armour class takes its one point as in a battle.
   Unit[u].InfQty = 10;
   Unit[u].ArmQty = 0;
   LoneFrontage(u, &inf, &art, &arm);
   EXPECT_DOUBLE_EQ(inf, 11);
-  EXPECT_DOUBLE_EQ(arm, 0);
+  EXPECT_DOUBLE_EQ(arm, 1);
 }
 
 TEST_F(PanelFrontTest, CoverOfTheInfantryInTheLine) {
