@@ -1,4 +1,5 @@
 #include "battle_view.h"
+#include "view_text.h"
 
 #include <QApplication>
 #include <QDialog>
@@ -19,7 +20,6 @@
 namespace mf::app {
 namespace {
 
-QString Q(const std::string& s) { return QString::fromStdString(s); }
 
 QWidget* MainWindow() {
   for (QWidget* w : QApplication::topLevelWidgets())

@@ -1,4 +1,5 @@
 #include "diplomatics_view.h"
+#include "view_text.h"
 
 #include <QDialog>
 #include <QFont>
@@ -15,7 +16,6 @@
 namespace mf::app {
 namespace {
 
-QString Q(const std::string& s) { return QString::fromStdString(s); }
 
 void ShowDiplomatics(mf::HumbleDialog& humble, QWidget* parent) {
   auto* dialog = dynamic_cast<mf::DiplomaticsDialog*>(&humble);

@@ -1,4 +1,5 @@
 #include "event_view.h"
+#include "view_text.h"
 
 #include <QApplication>
 #include <QCursor>
@@ -19,7 +20,6 @@ namespace {
 
 using Dialog = mf::EventDialog;
 
-QString Q(const std::string& s) { return QString::fromStdString(s); }
 
 // The story keeps the line breaks of the scenario (CR LF in the tables).
 QString StoryText(const std::string& story) {

@@ -1,4 +1,5 @@
 #include "main_window.h"
+#include "view_text.h"
 
 #include <QActionGroup>
 #include <QApplication>
@@ -34,7 +35,6 @@
 namespace mf::app {
 namespace {
 
-QString Q(const std::string& s) { return QString::fromStdString(s); }
 
 constexpr int kTickMs = 100;
 constexpr int kRightColumnW = 340;

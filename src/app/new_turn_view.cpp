@@ -1,4 +1,5 @@
 #include "new_turn_view.h"
+#include "view_text.h"
 
 #include <QApplication>
 #include <QCursor>
@@ -19,7 +20,6 @@
 namespace mf::app {
 namespace {
 
-QString Q(const std::string& s) { return QString::fromStdString(s); }
 
 // The New Turn dialog closes only by its own buttons: the player proceeds or
 // leaves the game, never just closes the window.
@@ -28,11 +28,6 @@ class NewTurnWindow : public QDialog {
   explicit NewTurnWindow(QWidget* parent) : QDialog(parent) {}
   void reject() override {}
 };
-
-void Fill(QListWidget* list, const std::vector<std::string>& rows) {
-  list->clear();
-  for (const auto& row : rows) list->addItem(Q(row));
-}
 
 void ShowNewTurn(mf::HumbleDialog& humble, QWidget* parent) {
   auto* dialog = dynamic_cast<mf::NewTurnDialog*>(&humble);
@@ -114,9 +109,9 @@ void ShowNewTurn(mf::HumbleDialog& humble, QWidget* parent) {
     report->setVisible(dialog->reportShown);
     headlineTitle->setText(Q(dialog->headlineTitle));
     headlineText->setText(Q(dialog->headlineText));
-    Fill(news, dialog->newsRows);
-    Fill(losses, dialog->lossRows);
-    Fill(kills, dialog->killRows);
+    FillList(news, dialog->newsRows, -1);
+    FillList(losses, dialog->lossRows, -1);
+    FillList(kills, dialog->killRows, -1);
     briefing->setPlainText(Q(dialog->briefing));
     passwordPart->setVisible(dialog->passwordShown);
     passwordButton->setText(Q(dialog->passwordButtonCaption));

@@ -1,4 +1,5 @@
 #include "officerpool_view.h"
+#include "view_text.h"
 
 #include <QDialog>
 #include <QGridLayout>
@@ -19,21 +20,6 @@ namespace {
 
 using Dialog = mf::OfficerPoolDialog;
 
-QString Q(const std::string& s) { return QString::fromStdString(s); }
-
-// Rows are rebuilt only when they changed, so that a click on a row never
-// deletes the item it is being delivered to.
-void Fill(QListWidget* list, const std::vector<std::string>& rows, int current) {
-  const QSignalBlocker block(list);
-  bool same = list->count() == static_cast<int>(rows.size());
-  for (int i = 0; same && i < list->count(); ++i) same = list->item(i)->text() == Q(rows[static_cast<std::size_t>(i)]);
-  if (!same) {
-    list->clear();
-    for (const auto& row : rows) list->addItem(Q(row));
-  }
-  list->setCurrentRow(current);
-  if (current < 0) list->clearSelection();
-}
 
 // One officer's portrait and lines.
 struct OfficerBox {
@@ -130,7 +116,7 @@ void ShowOfficerPool(mf::HumbleDialog& humble, QWidget* parent) {
 
   auto refresh = [=, &window, &unitBox, &poolBox] {
     points->setText(Q(dialog->ppText));
-    Fill(pool, dialog->poolRows, dialog->poolRow);
+    FillList(pool, dialog->poolRows, dialog->poolRow);
     unitBox.Show(dialog->unitView);
     poolBox.Show(dialog->poolView);
     poolGroup->setVisible(!dialog->poolView.lines.empty());

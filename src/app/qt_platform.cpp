@@ -1,4 +1,5 @@
 #include "qt_platform.h"
+#include "view_text.h"
 
 #include <QApplication>
 #include <QCursor>
@@ -22,7 +23,6 @@
 namespace mf::app {
 namespace {
 
-QString Q(const std::string& s) { return QString::fromStdString(s); }
 
 QString Title(const std::string& title) { return Q(title.empty() ? std::string(mf::kProgramTitle) : title); }
 

@@ -1,4 +1,5 @@
 #include "research_view.h"
+#include "view_text.h"
 
 #include <QDialog>
 #include <QFont>
@@ -18,21 +19,6 @@
 namespace mf::app {
 namespace {
 
-QString Q(const std::string& s) { return QString::fromStdString(s); }
-
-// Rows are rebuilt only when they changed, so that a click on a row never
-// deletes the item it is being delivered to.
-void Fill(QListWidget* list, const std::vector<std::string>& rows, int current) {
-  const QSignalBlocker block(list);
-  bool same = list->count() == static_cast<int>(rows.size());
-  for (int i = 0; same && i < list->count(); ++i) same = list->item(i)->text() == Q(rows[static_cast<std::size_t>(i)]);
-  if (!same) {
-    list->clear();
-    for (const auto& row : rows) list->addItem(Q(row));
-  }
-  list->setCurrentRow(current);
-  if (current < 0) list->clearSelection();
-}
 
 // A line edit shows the dialog's value unless the person is typing in it.
 void Show(QLineEdit* edit, const std::string& value) {
@@ -135,8 +121,8 @@ void ShowResearch(mf::HumbleDialog& humble, QWidget* parent) {
   layout->addLayout(bottom);
 
   auto refresh = [=, &window] {
-    Fill(known, dialog->knownRows, dialog->knownIndex);
-    Fill(offer, dialog->offerRows, dialog->offerIndex);
+    FillList(known, dialog->knownRows, dialog->knownIndex);
+    FillList(offer, dialog->offerRows, dialog->offerIndex);
     name->setText(Q(dialog->detailName));
     text->setText(Q(dialog->detailText));
     need1->setText(Q(dialog->detailNeed1));

@@ -1,4 +1,5 @@
 #include "side_panel.h"
+#include "view_text.h"
 
 #include <QGridLayout>
 #include <QHBoxLayout>
@@ -14,7 +15,6 @@ namespace {
 
 constexpr int kCounterBox = 47;
 
-QString Q(const std::string& s) { return QString::fromStdString(s); }
 
 // A sprite scaled to fit a box, keeping its shape; empty when there is none.
 QPixmap Fit(int sprite, int w, int h) {

@@ -1,4 +1,5 @@
 #include "start_game_view.h"
+#include "view_text.h"
 
 #include <QApplication>
 #include <QCheckBox>
@@ -20,7 +21,6 @@
 namespace mf::app {
 namespace {
 
-QString Q(const std::string& s) { return QString::fromStdString(s); }
 
 void ShowStartGame(mf::HumbleDialog& humble, QWidget* parent) {
   auto* dialog = dynamic_cast<mf::StartGameDialog*>(&humble);

@@ -1,4 +1,5 @@
 #include "transfer_view.h"
+#include "view_text.h"
 
 #include <QDialog>
 #include <QGridLayout>
@@ -19,7 +20,6 @@ namespace {
 
 using Dialog = mf::TransferDialog;
 
-QString Q(const std::string& s) { return QString::fromStdString(s); }
 
 // A slider and a box for the same quantity; either sets it.
 struct QuantityRow {

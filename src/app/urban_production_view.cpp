@@ -1,4 +1,5 @@
 #include "urban_production_view.h"
+#include "view_text.h"
 
 #include <QDialog>
 #include <QFontDatabase>
@@ -19,7 +20,6 @@ namespace {
 
 using Dialog = mf::UrbanProductionDialog;
 
-QString Q(const std::string& s) { return QString::fromStdString(s); }
 
 QLabel* Value(QWidget* parent, const char* name) {
   auto* label = new QLabel(parent);
@@ -44,13 +44,6 @@ QFont FixedPitchFont() {
   font.setStyleHint(QFont::TypeWriter);
   font.setFixedPitch(true);
   return font;
-}
-
-void Fill(QListWidget* list, const std::vector<std::string>& rows, int current) {
-  const QSignalBlocker quiet(list);
-  list->clear();
-  for (const auto& row : rows) list->addItem(Q(row));
-  list->setCurrentRow(current);
 }
 
 void ShowUrbanProduction(mf::HumbleDialog& humble, QWidget* parent) {
@@ -145,8 +138,8 @@ void ShowUrbanProduction(mf::HumbleDialog& humble, QWidget* parent) {
     info->setEnabled(dialog->infoEnabled);
     if (!dialog->IsOpen()) window.accept();
   };
-  Fill(types, dialog->typeRows, dialog->typeRow);
-  Fill(shqs, dialog->shqRows, dialog->shqRow);
+  FillList(types, dialog->typeRows, dialog->typeRow);
+  FillList(shqs, dialog->shqRows, dialog->shqRow);
 
   // A refused action leaves the dialog as it was; the enabled states keep
   // the buttons from asking for one.
