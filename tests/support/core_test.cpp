@@ -80,5 +80,22 @@ int AddUnit(int r, int x, int y, const std::string& name, int infType, int infQt
   return u;
 }
 
+int AddShq(int r, int x, int y, int number, const std::string& name) {
+  const int u = AddUnit(r, x, y, name);
+  if (u == 0) return 0;
+  Unit[u].Shq = number;
+  Unit[u].SupplyPct = 0;
+  Shq[r][number].Unit = u;
+  return u;
+}
+
+int AddThq(int r, int x, int y, int boss, const std::string& name) {
+  const int u = AddUnit(r, x, y, name);
+  if (u == 0) return 0;
+  Unit[u].Thq = 1;
+  Unit[u].Boss = boss;
+  return u;
+}
+
 }  // namespace world
 }  // namespace mf::test

@@ -38,6 +38,11 @@ int AddType(const std::string& name, int theater, int cls);
 // Puts a new unit of regime r into the first free slot of hex (x, y) and
 // returns its number (0 when the hex is full).
 int AddUnit(int r, int x, int y, const std::string& name, int infType = 0, int infQty = 0);
+// A new SHQ of regime r with SHQ number `number` on (x, y), registered in
+// Shq[r][number].Unit, its stock (Unit.SupplyPct) empty.
+int AddShq(int r, int x, int y, int number, const std::string& name);
+// A new THQ of regime r on (x, y) under `boss`.
+int AddThq(int r, int x, int y, int boss, const std::string& name);
 }  // namespace world
 
 }  // namespace mf::test

@@ -73,17 +73,10 @@ class EconTest : public CoreTest {
 
   // An SHQ of regime r with the given number, standing on (x, y).
   static int AddShq(int r, int x, int y, int number, const std::string& name = "SHQ") {
-    const int u = world::AddUnit(r, x, y, name);
-    Unit[u].Shq = number;
-    Unit[u].SupplyPct = 0;  // the stock
-    Shq[r][number].Unit = u;
-    return u;
+    return world::AddShq(r, x, y, number, name);
   }
   static int AddThq(int r, int x, int y, int boss, const std::string& name = "THQ") {
-    const int u = world::AddUnit(r, x, y, name);
-    Unit[u].Thq = 1;
-    Unit[u].Boss = boss;
-    return u;
+    return world::AddThq(r, x, y, boss, name);
   }
   // A land formation of `qty` pieces of type t under `boss`.
   static int AddFormation(int r, int x, int y, int boss, int t = 0, int qty = 0, const std::string& name = "Formation") {

@@ -93,19 +93,14 @@ class OrgsTest : public CoreTest {
 
   // An SHQ of regime r with SHQ number `number` on (x, y), stock `stock`.
   int AddShq(int r, int x, int y, int number, const std::string& name = "First Army", int stock = 0) {
-    const int u = world::AddUnit(r, x, y, name);
-    Unit[u].Shq = number;
+    const int u = world::AddShq(r, x, y, number, name);
     Unit[u].SupplyPct = stock;
     Unit[u].Readiness = 25;
     Unit[u].Experience = 25;
-    Shq[r][number].Unit = u;
     return u;
   }
   int AddThq(int r, int x, int y, int boss, const std::string& name = "THQ 1st") {
-    const int u = world::AddUnit(r, x, y, name);
-    Unit[u].Thq = 1;
-    Unit[u].Boss = boss;
-    return u;
+    return world::AddThq(r, x, y, boss, name);
   }
   // A land formation with `qty` rifles under `boss`.
   int AddFormation(int r, int x, int y, int boss, int qty = 100, const std::string& name = "1st Bataljon") {
