@@ -1,5 +1,7 @@
 #include "orders/movement.h"
 
+#include "engine/diplomacy.h"
+
 #include "model/arith.h"
 #include "model/game_state.h"
 #include "model/hex_geometry.h"
@@ -24,9 +26,9 @@ long Attr(long type, int attr) { return ValidType(static_cast<int>(type)) ? Type
 int Cur() { return ValidRegime(static_cast<int>(Game.CurRegime)) ? static_cast<int>(Game.CurRegime) : 0; }
 bool HumanRegime() { return Regime[Cur()].AI <= 0; }
 // True when regime `other` is at peace with the current regime.
-bool AtPeace(long other) {
-  if (other <= 0 || other == Game.CurRegime || !ValidRegime(static_cast<int>(other))) return false;
-  return Dip[Cur()][other].Relation == 1;
+// Land of a regime the mover is at peace with is closed to it; its own never is.
+bool PeaceLand(long owner) {
+  return owner != Game.CurRegime && AtPeace(Cur(), static_cast<int>(owner));
 }
 bool Full(const HexRec& h) { return h.Unit[kStackSlots] != 0; }
 
@@ -58,7 +60,7 @@ int LandStep(int u, int carryPct, double occupyPower, int cx, int cy, HexXY n, i
   if (Full(to)) c = kOutOfReach;
   // A human cannot walk into a hex he does not see now; the computer can.
   if (HumanRegime() && to.Vis < 1) c = kOutOfReach;
-  if (AtPeace(to.Owner)) c = kOutOfReach;
+  if (PeaceLand(to.Owner)) c = kOutOfReach;
   if (to.Owner != Game.CurRegime) {
     c += static_cast<int>(EV(9));
     if (to.Unit[1] != 0) c = kOutOfReach;
@@ -86,7 +88,7 @@ int SeaStep(HexXY n) {
 int AirStep(HexXY n) {
   const HexRec& to = Hex[n.x][n.y];
   int c = static_cast<int>(EV(12));
-  if (AtPeace(to.Owner)) c = kOutOfReach;
+  if (PeaceLand(to.Owner)) c = kOutOfReach;
   return c;
 }
 
@@ -108,7 +110,7 @@ void Filters(int theater, int x1, int y1, int x2, int y2) {
   for (int x = x1; x <= x2; ++x) {
     for (int y = y1; y <= y2; ++y) {
       HexRec& h = Hex[x][y];
-      if (bombing && h.Owner != 0 && AtPeace(h.Owner)) h.Mark = kOutOfReach;
+      if (bombing && h.Owner != 0 && PeaceLand(h.Owner)) h.Mark = kOutOfReach;
     }
   }
   if (!(o.StratBombOrder > 0 || (airlift && AirliftDrop == 0))) {
@@ -130,7 +132,7 @@ void Filters(int theater, int x1, int y1, int x2, int y2) {
           if (AirfieldRefused(x, y)) h.Mark = kOutOfReach;
         } else {
           const bool unexplored = Game.FogOfExploration == 1 && r >= 1 && r <= kSightRegimes && h.Seen[r] < 1;
-          if (AtPeace(h.Owner) || unexplored || h.Land == kMountain || h.Land == kSea) h.Mark = kOutOfReach;
+          if (PeaceLand(h.Owner) || unexplored || h.Land == kMountain || h.Land == kSea) h.Mark = kOutOfReach;
         }
       }
     }
