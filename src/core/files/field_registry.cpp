@@ -12,10 +12,12 @@
 
 #include <cmath>
 #include <cstdint>
+#include <cstdio>
 #include <limits>
 #include <type_traits>
 #include <utility>
 
+#include "ai/ai_state.h"
 #include "model/arith.h"
 #include "model/game_state.h"
 
@@ -34,6 +36,7 @@ enum class Kind {
   kBool,   // a long holding -1 (true) or 0 (false)
   kFlag,   // a C++ bool of the running program, read as -1 / 0
   kText,   // UTF-8 text
+  kDouble, // a floating value kept in memory only
 };
 
 // One index dimension: readable 0..max (slot 0 exists and reads as none),
@@ -67,8 +70,9 @@ constexpr Kind KindOf() {
   if constexpr (std::is_same_v<T, Long>) return Kind::kLong;
   else if constexpr (std::is_same_v<T, Short>) return Kind::kShort;
   else if constexpr (std::is_same_v<T, bool>) return Kind::kFlag;
+  else if constexpr (std::is_same_v<T, double>) return Kind::kDouble;
   else {
-    static_assert(std::is_same_v<T, std::string>, "a registered field is a long, short, bool or text");
+    static_assert(std::is_same_v<T, std::string>, "a registered field is a long, short, bool, double or text");
     return Kind::kText;
   }
 }
@@ -119,6 +123,7 @@ GameRec& GameAt(const Idx&) { return Game; }
 UIRec& UIAt(const Idx&) { return UI; }
 OrderFlags& OrderAt(const Idx&) { return UI.Order; }
 OverlayFlags& OverlayAt(const Idx&) { return UI.Overlay; }
+AIRec& AIAt(const Idx&) { return AI; }
 
 RecordDef Rec(const char* name, std::vector<Dim> dims, std::vector<FieldDef> fields,
               const char* defaultField = "") {
@@ -259,6 +264,20 @@ std::vector<RecordDef> BuildRegistry() {
 #undef OVL
 #undef ORD
 #undef UIF
+
+  // The computer player's working tables: rebuilt on every computer turn,
+  // readable and writable so that scripts and tests can look at its analysis.
+#define AIF(F) Make<&AIAt, &AIRec::F>(#F)
+  reg.push_back(Rec("AI", {},
+                    {AIF(AreaCount), AIF(LandmassCount), AIF(FrontCount), AIF(ListCount), AIF(SupplyRatio),
+                     AIF(AreaX), AIF(AreaY), AIF(AreaValue), AIF(AreaLandmass), AIF(AreaSide),
+                     AIF(AreaOwnStrength), AIF(AreaEnemyStrength), AIF(AreaContact), AIF(AreaShq),
+                     AIF(AreaLandBorder), AIF(AreaSeaBorder), AIF(AreaCoastBorder), AIF(AreaLandDist),
+                     AIF(AreaSeaDist), AIF(FrontOwnArea), AIF(FrontEnemyArea), AIF(FrontWeight),
+                     AIF(FrontShare), AIF(FrontStrength), AIF(FrontStance), AIF(FrontLineHexes),
+                     AIF(FrontLineUnits), AIF(FrontBalance), AIF(ListA), AIF(ListB), AIF(ListScore),
+                     AIF(ShqNeedsLand), AIF(BestType), AIF(TypeShare)}));
+#undef AIF
 
   return reg;
 }
@@ -452,6 +471,13 @@ bool TruthOf(const std::string& value) {
   return Val(t) != 0;
 }
 
+// A floating value as short as it reads back exactly: 0.5, 1, 0.333333333.
+std::string DoubleText(double v) {
+  char buf[32];
+  std::snprintf(buf, sizeof buf, "%.9g", v);
+  return buf;
+}
+
 }  // namespace
 
 bool GetField(const std::string& name, std::string* value, std::string* why) {
@@ -474,6 +500,9 @@ bool GetField(const std::string& name, std::string* value, std::string* why) {
       break;
     case Kind::kText:
       *value = *static_cast<std::string*>(p);
+      break;
+    case Kind::kDouble:
+      *value = DoubleText(*static_cast<double*>(p));
       break;
   }
   return true;
@@ -508,6 +537,9 @@ bool SetField(const std::string& name, const std::string& value, std::string* wh
       break;
     case Kind::kText:
       *static_cast<std::string*>(p) = value;
+      break;
+    case Kind::kDouble:
+      *static_cast<double*>(p) = Val(value);
       break;
   }
   return true;
