@@ -1,0 +1,81 @@
+#include "ai/ai_orders.h"
+
+#include "combat/attack.h"
+#include "orders/movement.h"
+#include "platform/platform.h"
+#include "view/draw_hex.h"
+
+namespace mf {
+
+bool AIShowing() { return Game.ShowAIMoves != kFalse; }
+
+void AIMoveSound() {
+  if (UI.SoundOff == 0) Plat().PlaySound(kAIMoveSound);
+}
+
+void AIWatch(int x, int y) {
+  if (AIShowing() && ValidHex(x, y)) CenterMap(x, y);
+}
+
+void AIShowChange(Long what) {
+  if (!AIShowing()) return;
+  RequestRedraw(what);
+  Plat().YieldEvents();
+}
+
+bool AIIsHq(int u) { return ValidUnit(u) && (Unit[u].Thq > 0 || Unit[u].Shq > 0); }
+
+bool AILongRange(int u) {
+  if (!ValidUnit(u) || Unit[u].Theater != kLandTheater) return false;
+  const long t = Unit[u].ArtType;
+  return ValidType(static_cast<int>(t)) && Type[t].Attr[kArtilleryRange] > 1;
+}
+
+void AIFloodFrom(int x, int y, int slot) {
+  UI.OrdX = x;
+  UI.OrdY = y;
+  UI.OrdSlot = slot;
+  // As a player who selected the unit: some filters of the reach look at
+  // the selection.
+  UI.SelX = x;
+  UI.SelY = y;
+  UI.SelSlot = slot;
+  MoveFlood(!AIShowing());
+}
+
+bool AIMoveUnitTo(int x, int y, int slot, int tx, int ty) {
+  const Long u = Hex[x][y].Unit[slot];
+  if (!ValidUnit(static_cast<int>(u))) return false;
+  AIWatch(x, y);
+  UI.OrdX = x;
+  UI.OrdY = y;
+  UI.OrdSlot = slot;
+  UI.SelX = tx;
+  UI.SelY = ty;
+  UI.Order.SelOrderMove = u;
+  const int result = MoveUnit(AIShowing());
+  UI.Order.SelOrderMove = 0;
+  if (result != kMoveDone) return false;
+  AIMoveSound();
+  // The selection is the target now: the square around it holds both ends.
+  AIShowChange(1);
+  return true;
+}
+
+void AIFight(int tx, int ty) {
+  AIWatch(tx, ty);
+  UI.OrdX = tx;
+  UI.OrdY = ty;
+  UI.Order.AttackOrder = 1;
+  doAttack();
+  UI.Order.AttackOrder = 0;
+  for (int i = 0; i <= kAttackerCap; ++i) {
+    UI.AttackerX[i] = 0;
+    UI.AttackerY[i] = 0;
+    UI.AttackerSlot[i] = 0;
+  }
+  UI.AttackerCount = 0;
+  AIShowChange(2);
+}
+
+}  // namespace mf
