@@ -1,11 +1,18 @@
 #include "ai/ai_orders.h"
 
+#include "ai/ai_state.h"
+
 #include "combat/attack.h"
 #include "orders/movement.h"
 #include "platform/platform.h"
 #include "view/draw_hex.h"
 
 namespace mf {
+
+int AIMapW() { return Game.MapW < 0 ? 0 : (Game.MapW > kMapCap ? kMapCap : static_cast<int>(Game.MapW)); }
+int AIMapH() { return Game.MapH < 0 ? 0 : (Game.MapH > kMapCap ? kMapCap : static_cast<int>(Game.MapH)); }
+bool AIValidFront(int f) { return f >= 1 && f <= AI.FrontCount && f <= kFrontCap; }
+bool AILive(long u) { return ValidUnit(static_cast<int>(u)) && u != 0 && Unit[u].Regime != 0; }
 
 bool AIShowing() { return Game.ShowAIMoves != kFalse; }
 

@@ -23,6 +23,14 @@ void AIWatch(int x, int y);
 // Does nothing while nobody watches.
 void AIShowChange(Long what);
 
+// The map's size, held inside the tables, for the scans of every stage.
+int AIMapW();
+int AIMapH();
+// A front number in use.
+bool AIValidFront(int f);
+// A unit number that names a unit in play.
+bool AILive(long u);
+
 // Kinds of unit as the computer player sorts them.
 bool AIIsHq(int u);
 // A land formation whose guns reach beyond the next hex.

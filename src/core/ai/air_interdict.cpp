@@ -9,8 +9,6 @@
 namespace mf {
 namespace {
 
-int MapW() { return Game.MapW < 0 ? 0 : (Game.MapW > kMapCap ? kMapCap : static_cast<int>(Game.MapW)); }
-int MapH() { return Game.MapH < 0 ? 0 : (Game.MapH > kMapCap ? kMapCap : static_cast<int>(Game.MapH)); }
 
 bool Prey(const HexRec& h) {
   const int u = static_cast<int>(h.Unit[1]);
@@ -23,8 +21,8 @@ bool Prey(const HexRec& h) {
 }  // namespace
 
 void AIAirInterdict() {
-  for (int x = 1; x <= MapW(); ++x) {
-    for (int y = 1; y <= MapH(); ++y) {
+  for (int x = 1; x <= AIMapW(); ++x) {
+    for (int y = 1; y <= AIMapH(); ++y) {
       if (Hex[x][y].Owner != Game.CurRegime) continue;
       for (int s = 1; s <= kStackSlots; ++s) {
         const int u = static_cast<int>(Hex[x][y].Unit[s]);
@@ -33,8 +31,8 @@ void AIAirInterdict() {
         UI.Order.InterdictOrder = 1;
         AIFloodFrom(x, y, s);
         int tx = 0, ty = 0;
-        for (int px = 1; px <= MapW() && tx == 0; ++px) {
-          for (int py = 1; py <= MapH(); ++py) {
+        for (int px = 1; px <= AIMapW() && tx == 0; ++px) {
+          for (int py = 1; py <= AIMapH(); ++py) {
             if (Prey(Hex[px][py])) {
               tx = px;
               ty = py;

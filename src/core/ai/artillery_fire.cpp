@@ -9,8 +9,6 @@
 namespace mf {
 namespace {
 
-int MapW() { return Game.MapW < 0 ? 0 : (Game.MapW > kMapCap ? kMapCap : static_cast<int>(Game.MapW)); }
-int MapH() { return Game.MapH < 0 ? 0 : (Game.MapH > kMapCap ? kMapCap : static_cast<int>(Game.MapH)); }
 
 // An occupied hex of a regime at war with the one to move.
 bool Target(int x, int y) {
@@ -61,10 +59,10 @@ AITarget AIArtilleryTarget(int x, int y, long range) {
 }
 
 void AIArtilleryFire(int f) {
-  if (f < 1 || f > AI.FrontCount || f > kFrontCap) return;
+  if (!AIValidFront(f)) return;
   const long own = AI.FrontOwnArea[f];
-  for (int x = 1; x <= MapW(); ++x) {
-    for (int y = 1; y <= MapH(); ++y) {
+  for (int x = 1; x <= AIMapW(); ++x) {
+    for (int y = 1; y <= AIMapH(); ++y) {
       if (Hex[x][y].Area != own) continue;
       for (int s = 1; s <= kStackSlots; ++s) {
         const int u = static_cast<int>(Hex[x][y].Unit[s]);

@@ -12,8 +12,6 @@
 namespace mf {
 namespace {
 
-int MapW() { return Game.MapW < 0 ? 0 : (Game.MapW > kMapCap ? kMapCap : static_cast<int>(Game.MapW)); }
-int MapH() { return Game.MapH < 0 ? 0 : (Game.MapH > kMapCap ? kMapCap : static_cast<int>(Game.MapH)); }
 
 int Cur() { return ValidRegime(static_cast<int>(Game.CurRegime)) ? static_cast<int>(Game.CurRegime) : 0; }
 
@@ -72,14 +70,14 @@ AIAttackOdds AIWeighAttack(int x, int y) {
 }
 
 void AILandAttack(int f, double D) {
-  if (f < 1 || f > AI.FrontCount || f > kFrontCap) return;
+  if (!AIValidFront(f)) return;
   const long own = AI.FrontOwnArea[f];
   const long other = AI.FrontEnemyArea[f];
   if (other <= 0) return;
   const int r = Cur();
   ListClear();
-  for (int x = 1; x <= MapW(); ++x) {
-    for (int y = 1; y <= MapH(); ++y) {
+  for (int x = 1; x <= AIMapW(); ++x) {
+    for (int y = 1; y <= AIMapH(); ++y) {
       const HexRec& h = Hex[x][y];
       if (h.Area != other || h.Owner == Game.CurRegime || h.Unit[1] == 0) continue;
       if (h.Owner != 0 && AtPeace(r, static_cast<int>(h.Owner))) continue;

@@ -14,8 +14,6 @@
 namespace mf {
 namespace {
 
-int MapW() { return Game.MapW < 0 ? 0 : (Game.MapW > kMapCap ? kMapCap : static_cast<int>(Game.MapW)); }
-int MapH() { return Game.MapH < 0 ? 0 : (Game.MapH > kMapCap ? kMapCap : static_cast<int>(Game.MapH)); }
 
 bool SeaNeighbour(int x, int y) {
   for (int d = 1; d <= kHexSides; ++d) {
@@ -46,8 +44,8 @@ bool InClass(int u, int unitClass, int x, int y) {
 void AIMoveAll(int f, int unitClass) {
   std::vector<bool> moved(kUnitCap + 1, false);
   const bool noLandBorder = AINoLandBorder(f);
-  for (int x = 1; x <= MapW(); ++x) {
-    for (int y = 1; y <= MapH(); ++y) {
+  for (int x = 1; x <= AIMapW(); ++x) {
+    for (int y = 1; y <= AIMapH(); ++y) {
       if (Hex[x][y].Land == kSea) continue;
       for (int s = 1; s <= kStackSlots; ++s) {
         const int u = static_cast<int>(Hex[x][y].Unit[s]);
@@ -57,8 +55,8 @@ void AIMoveAll(int f, int unitClass) {
 
         AIFloodFrom(x, y, s);
         ListClear();
-        for (int tx = 1; tx <= MapW(); ++tx) {
-          for (int ty = 1; ty <= MapH(); ++ty) {
+        for (int tx = 1; tx <= AIMapW(); ++tx) {
+          for (int ty = 1; ty <= AIMapH(); ++ty) {
             const HexRec& t = Hex[tx][ty];
             if (t.Work <= 0 || t.Mark >= 999 || (tx == x && ty == y)) continue;
             long score = t.Work - 3L * t.Mark;

@@ -1,5 +1,6 @@
 #include "ai/operations.h"
 
+#include "ai/ai_orders.h"
 #include "ai/air_interdict.h"
 #include "ai/analysis_log.h"
 #include "ai/ai_state.h"
@@ -14,8 +15,6 @@
 namespace mf {
 namespace {
 
-int MapW() { return Game.MapW < 0 ? 0 : (Game.MapW > kMapCap ? kMapCap : static_cast<int>(Game.MapW)); }
-int MapH() { return Game.MapH < 0 ? 0 : (Game.MapH > kMapCap ? kMapCap : static_cast<int>(Game.MapH)); }
 
 // By stance 0 (garrison) .. 4 (full offensive); anything else reads as 0.
 double ByStance(long stance, const double (&values)[5]) { return stance >= 0 && stance <= 4 ? values[stance] : values[0]; }
@@ -26,8 +25,8 @@ void AISupplyRatio() {
   double made = 0;
   double wanted = 0;
   const long divider = EV(201);
-  for (int x = 1; x <= MapW(); ++x) {
-    for (int y = 1; y <= MapH(); ++y) {
+  for (int x = 1; x <= AIMapW(); ++x) {
+    for (int y = 1; y <= AIMapH(); ++y) {
       const HexRec& h = Hex[x][y];
       if (h.Owner != Game.CurRegime) continue;
       for (int s = 1; s <= kStackSlots; ++s) {

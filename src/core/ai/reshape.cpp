@@ -18,11 +18,8 @@
 namespace mf {
 namespace {
 
-int MapW() { return Game.MapW < 0 ? 0 : (Game.MapW > kMapCap ? kMapCap : static_cast<int>(Game.MapW)); }
-int MapH() { return Game.MapH < 0 ? 0 : (Game.MapH > kMapCap ? kMapCap : static_cast<int>(Game.MapH)); }
 
-bool Live(long u) { return ValidUnit(static_cast<int>(u)) && u != 0 && Unit[u].Regime != 0; }
-bool Mine(long u) { return Live(u) && Unit[u].Regime == Game.CurRegime; }
+bool Mine(long u) { return AILive(u) && Unit[u].Regime == Game.CurRegime; }
 
 // Troops go from the unit in slot `from` to the unit in slot `into` of one
 // hex through a transfer in the computer's way; for each class 1..4 the
@@ -63,8 +60,8 @@ bool MergeWhole(int x, int y, int from, int into) {
 void Split(int f) {
   const long balance = AI.FrontBalance[f];
   ListClear();
-  for (int x = 1; x <= MapW(); ++x) {
-    for (int y = 1; y <= MapH(); ++y) {
+  for (int x = 1; x <= AIMapW(); ++x) {
+    for (int y = 1; y <= AIMapH(); ++y) {
       const HexRec& h = Hex[x][y];
       const int u = static_cast<int>(h.Unit[1]);
       if (!Mine(u) || Unit[u].Front != f || h.Unit[2] != 0) continue;
@@ -114,8 +111,8 @@ void Merge(int f) {
   if (n > 6) divisor = 2;
   if (n > 10) divisor = 1;
   const double limit = static_cast<double>(EV(102)) / static_cast<double>(divisor);
-  for (int x = 1; x <= MapW() && n > 0; ++x) {
-    for (int y = 1; y <= MapH() && n > 0; ++y) {
+  for (int x = 1; x <= AIMapW() && n > 0; ++x) {
+    for (int y = 1; y <= AIMapH() && n > 0; ++y) {
       if (Hex[x][y].Owner != Game.CurRegime) continue;
       bool merged = true;
       while (merged && n > 0) {
@@ -159,8 +156,8 @@ void AIUnitSplitMerge() {
 }
 
 void AIMergeNaval() {
-  for (int x = 1; x <= MapW(); ++x) {
-    for (int y = 1; y <= MapH(); ++y) {
+  for (int x = 1; x <= AIMapW(); ++x) {
+    for (int y = 1; y <= AIMapH(); ++y) {
       bool merged = true;
       while (merged) {
         merged = false;
@@ -177,7 +174,7 @@ void AIMergeNaval() {
         if (a == 0 || b == 0) break;
         const int ua = static_cast<int>(Hex[x][y].Unit[a]);
         const int ub = static_cast<int>(Hex[x][y].Unit[b]);
-        if (Live(Unit[ua].Cargo) || !AIClassesFit(ua, ub)) break;
+        if (AILive(Unit[ua].Cargo) || !AIClassesFit(ua, ub)) break;
         merged = MergeWhole(x, y, a, b);
       }
     }

@@ -18,18 +18,15 @@
 namespace mf {
 namespace {
 
-int MapW() { return Game.MapW < 0 ? 0 : (Game.MapW > kMapCap ? kMapCap : static_cast<int>(Game.MapW)); }
-int MapH() { return Game.MapH < 0 ? 0 : (Game.MapH > kMapCap ? kMapCap : static_cast<int>(Game.MapH)); }
 bool OnMap(HexXY n) { return n.x > 0 && n.y > 0; }
 int Cur() { return ValidRegime(static_cast<int>(Game.CurRegime)) ? static_cast<int>(Game.CurRegime) : 0; }
 
 constexpr int kSeaWaves = 30;
 constexpr const char* kWarshipsInPort = "AI cannot invade town with warships. yep this is bug.";
 
-bool Live(long u) { return ValidUnit(static_cast<int>(u)) && u != 0 && Unit[u].Regime != 0; }
 
 // A warship: a sea unit with guns of its first class.
-bool Warship(long u) { return Live(u) && Unit[u].Theater == kSeaTheater && Unit[u].InfQty > 0; }
+bool Warship(long u) { return AILive(u) && Unit[u].Theater == kSeaTheater && Unit[u].InfQty > 0; }
 bool WarshipIn(const HexRec& h) {
   for (int s = 1; s <= kStackSlots; ++s)
     if (Warship(h.Unit[s])) return true;
@@ -40,8 +37,8 @@ struct Place {
   int x = 0, y = 0, slot = 0;
 };
 Place Find(int u) {
-  for (int x = 1; x <= MapW(); ++x)
-    for (int y = 1; y <= MapH(); ++y)
+  for (int x = 1; x <= AIMapW(); ++x)
+    for (int y = 1; y <= AIMapH(); ++y)
       for (int s = 1; s <= kStackSlots; ++s)
         if (Hex[x][y].Unit[s] == u) return {x, y, s};
   return {};
@@ -49,7 +46,7 @@ Place Find(int u) {
 
 int CargoOf(int ship) {
   const long c = Unit[ship].Cargo;
-  return Live(c) ? static_cast<int>(c) : 0;
+  return AILive(c) ? static_cast<int>(c) : 0;
 }
 
 Long ReadinessAfterLanding(Long readiness) { return readiness - 30 < 10 ? 10 : readiness - 30; }
@@ -69,7 +66,7 @@ void Board(int ship, const Place& at) {
   if (h.Land != kUrban) return;
   for (int s = 1; s <= kStackSlots; ++s) {
     const int u = static_cast<int>(h.Unit[s]);
-    if (!Live(u) || u == ship || Unit[u].Regime != Game.CurRegime || Unit[u].Theater != kLandTheater) continue;
+    if (!AILive(u) || u == ship || Unit[u].Regime != Game.CurRegime || Unit[u].Theater != kLandTheater) continue;
     if (AIIsHq(u)) continue;
     if (UnitOccupyPower(u) <= static_cast<double>(EV(101))) continue;
     if (UnitLoadWeight(u) > ShipCapacity(ship, u)) continue;
@@ -150,17 +147,17 @@ bool Land(int ship, const Place& site) {
 }  // namespace
 
 void AISeaField(int f, int mode) {
-  for (int x = 1; x <= MapW(); ++x) {
-    for (int y = 1; y <= MapH(); ++y) {
+  for (int x = 1; x <= AIMapW(); ++x) {
+    for (int y = 1; y <= AIMapH(); ++y) {
       Hex[x][y].Work = 0;
       Hex[x][y].Mark = 0;
     }
   }
-  if (f < 1 || f > AI.FrontCount || f > kFrontCap) return;
+  if (!AIValidFront(f)) return;
   const long area = mode == 1 ? AI.FrontEnemyArea[f] : AI.FrontOwnArea[f];
   if (area <= 0) return;
-  for (int x = 1; x <= MapW(); ++x) {
-    for (int y = 1; y <= MapH(); ++y) {
+  for (int x = 1; x <= AIMapW(); ++x) {
+    for (int y = 1; y <= AIMapH(); ++y) {
       HexRec& h = Hex[x][y];
       if (h.Land != kUrban || h.Area != area) continue;
       h.Work = mode == 1 ? 100 : 200;
@@ -170,8 +167,8 @@ void AISeaField(int f, int mode) {
     }
   }
   for (int w = 1; w <= kSeaWaves; ++w) {
-    for (int x = 1; x <= MapW(); ++x) {
-      for (int y = 1; y <= MapH(); ++y) {
+    for (int x = 1; x <= AIMapW(); ++x) {
+      for (int y = 1; y <= AIMapH(); ++y) {
         const HexRec& h = Hex[x][y];
         if (h.Mark != w) continue;
         for (int d = 1; d <= kHexSides; ++d) {
@@ -189,11 +186,11 @@ void AISeaField(int f, int mode) {
 
 void AIMoveShip(int x, int y, int slot) {
   const int ship = static_cast<int>(Hex[x][y].Unit[slot]);
-  if (!Live(ship)) return;
+  if (!AILive(ship)) return;
   AIFloodFrom(x, y, slot);
   ListClear();
-  for (int tx = 1; tx <= MapW(); ++tx) {
-    for (int ty = 1; ty <= MapH(); ++ty) {
+  for (int tx = 1; tx <= AIMapW(); ++tx) {
+    for (int ty = 1; ty <= AIMapH(); ++ty) {
       const HexRec& t = Hex[tx][ty];
       if (t.Work > 0 && t.Mark < 999) ListAdd(tx, ty, t.Work - t.Mark);
     }
@@ -211,18 +208,18 @@ void AIMoveShip(int x, int y, int slot) {
 }
 
 bool AIShipping(int f) {
-  if (f < 1 || f > AI.FrontCount || f > kFrontCap) return true;
+  if (!AIValidFront(f)) return true;
   const long own = AI.FrontOwnArea[f];
   const long other = AI.FrontEnemyArea[f];
   const int homeX = static_cast<int>(AI.AreaX[own]), homeY = static_cast<int>(AI.AreaY[own]);
   const int farX = static_cast<int>(AI.AreaX[other]), farY = static_cast<int>(AI.AreaY[other]);
 
   std::vector<int> ships;
-  for (int x = 1; x <= MapW(); ++x)
-    for (int y = 1; y <= MapH(); ++y)
+  for (int x = 1; x <= AIMapW(); ++x)
+    for (int y = 1; y <= AIMapH(); ++y)
       for (int s = 1; s <= kStackSlots; ++s) {
         const long u = Hex[x][y].Unit[s];
-        if (Live(u) && Unit[u].Regime == Game.CurRegime && Unit[u].Theater == kSeaTheater && Unit[u].Front == f)
+        if (AILive(u) && Unit[u].Regime == Game.CurRegime && Unit[u].Theater == kSeaTheater && Unit[u].Front == f)
           ships.push_back(static_cast<int>(u));
       }
 

@@ -10,10 +10,7 @@
 namespace mf {
 namespace {
 
-int MapW() { return Game.MapW < 0 ? 0 : (Game.MapW > kMapCap ? kMapCap : static_cast<int>(Game.MapW)); }
-int MapH() { return Game.MapH < 0 ? 0 : (Game.MapH > kMapCap ? kMapCap : static_cast<int>(Game.MapH)); }
 bool OnMap(HexXY n) { return n.x > 0 && n.y > 0; }
-bool ValidFront(int f) { return f >= 1 && f <= AI.FrontCount && f <= kFrontCap; }
 bool ValidArea(long a) { return a >= 1 && a <= kAreaCap; }
 
 // Land that units walk on: neither sea nor mountain.
@@ -30,8 +27,8 @@ long StackWorth(int x, int y) {
 // The line: hexes of the own area that look into the other area over land.
 void LineHexes(int f, long own, long other, long stance) {
   int c = 0;
-  for (int x = 1; x <= MapW(); ++x) {
-    for (int y = 1; y <= MapH(); ++y) {
+  for (int x = 1; x <= AIMapW(); ++x) {
+    for (int y = 1; y <= AIMapH(); ++y) {
       HexRec& h = Hex[x][y];
       if (h.Land == kSea || h.Area != own) continue;
       bool line = false;
@@ -101,8 +98,8 @@ void CentreHexes(int f, long own) {
 void Flood(int f, long other, long stance, double P) {
   const long waves = EV(230);
   for (long w = 1; w <= waves; ++w) {
-    for (int x = 1; x <= MapW(); ++x) {
-      for (int y = 1; y <= MapH(); ++y) {
+    for (int x = 1; x <= AIMapW(); ++x) {
+      for (int y = 1; y <= AIMapH(); ++y) {
         HexRec& h = Hex[x][y];
         if (h.Mark != w) continue;
         for (int d = 1; d <= kHexSides; ++d) {
@@ -140,84 +137,57 @@ void Flood(int f, long other, long stance, double P) {
   }
 }
 
-// Headquarters keep away from the line: every foreign neighbour (and a town
-// counts as two) cuts the value, and the cuts add up.
-void StaffTransform() {
-  for (int x = 1; x <= MapW(); ++x) {
-    for (int y = 1; y <= MapH(); ++y) {
-      HexRec& h = Hex[x][y];
-      if (!Own(h)) {
-        h.Work = 0;
-        continue;
-      }
-      int n = 0;
-      for (int d = 1; d <= kHexSides; ++d) {
-        const HexXY nb = Neighbour(x, y, d);
-        if (!OnMap(nb)) continue;
-        const HexRec& nh = Hex[nb.x][nb.y];
-        if (Walkable(nh) && !Own(nh)) ++n;
-      }
-      if (h.Land == kUrban) n += 2;
-      std::int64_t v = h.Work;
-      if (n == 1) v = Int(v * 0.6);
-      if (n == 2) v = Int(v * 0.4);
-      if (n == 3) v = Int(v * 0.2);
-      if (n > 0) v = Int(v * 0.1);
-      h.Work = static_cast<Long>(v);
-    }
+// The field of a class other than the line units, hex by hex from the line
+// units' field. Headquarters (and SHQs) keep away from the line: every
+// foreign neighbour (and a town counts as two) cuts the value, and the cuts
+// add up. An SHQ wants no town of its own to sit in either. Aircraft only
+// want own ground, and not much of it. Nobody but the line units wants
+// foreign ground.
+Long ClassValue(int x, int y, int unitClass) {
+  const HexRec& h = Hex[x][y];
+  if (!Own(h)) return 0;
+  std::int64_t v = h.Work;
+  if (unitClass == kAIAirClass) return static_cast<Long>(v > 50 ? 50 : v);
+  int n = 0;
+  for (int d = 1; d <= kHexSides; ++d) {
+    const HexXY nb = Neighbour(x, y, d);
+    if (!OnMap(nb)) continue;
+    const HexRec& nh = Hex[nb.x][nb.y];
+    if (Walkable(nh) && !Own(nh)) ++n;
   }
-}
-
-// An SHQ wants a quiet hex and no town of its own to sit in.
-void ShqTransform() {
-  for (int x = 1; x <= MapW(); ++x) {
-    for (int y = 1; y <= MapH(); ++y) {
-      HexRec& h = Hex[x][y];
-      if (!Own(h)) {
-        h.Work = 0;
-        continue;
-      }
-      if (h.Work < 0) h.Work = 0;
-      if (h.Land == kUrban) h.Work = static_cast<Long>(Int(h.Work / 2.0));
-    }
+  if (h.Land == kUrban) n += 2;
+  if (n == 1) v = Int(v * 0.6);
+  if (n == 2) v = Int(v * 0.4);
+  if (n == 3) v = Int(v * 0.2);
+  if (n > 0) v = Int(v * 0.1);
+  if (unitClass == kAIShqClass) {
+    if (v < 0) v = 0;
+    if (h.Land == kUrban) v = Int(v / 2.0);
   }
-}
-
-// Aircraft only want own ground, and not much of it.
-void AirTransform() {
-  for (int x = 1; x <= MapW(); ++x) {
-    for (int y = 1; y <= MapH(); ++y) {
-      HexRec& h = Hex[x][y];
-      if (!Own(h)) {
-        h.Work = 0;
-      } else if (h.Work > 50) {
-        h.Work = 50;
-      }
-    }
-  }
+  return static_cast<Long>(v);
 }
 
 }  // namespace
 
 bool AINoLandBorder(int f) {
-  if (!ValidFront(f)) return false;
+  if (!AIValidFront(f)) return false;
   const long own = AI.FrontOwnArea[f], other = AI.FrontEnemyArea[f];
   if (!ValidArea(own) || other < 0 || other > kAreaCap) return false;
   return AI.AreaLandBorder[own][other] == 0;
 }
 
-bool AISeaFront(int f) { return ValidFront(f) && AI.FrontEnemyArea[f] > 0 && AINoLandBorder(f); }
+bool AISeaFront(int f) { return AIValidFront(f) && AI.FrontEnemyArea[f] > 0 && AINoLandBorder(f); }
 
 void AIClearWork(int f) {
-  for (int x = 1; x <= MapW(); ++x) {
-    for (int y = 1; y <= MapH(); ++y) {
+  for (int x = 1; x <= AIMapW(); ++x) {
+    for (int y = 1; y <= AIMapH(); ++y) {
       HexRec& h = Hex[x][y];
       h.Mark = 0;
       h.ScratchRecon = 0;
       h.Work = 0;
     }
   }
-  if (!ValidFront(f)) return;
+  if (!AIValidFront(f)) return;
   AI.FrontLineHexes[f] = 0;
   AI.FrontLineUnits[f] = 0;
   AI.FrontBalance[f] = 0;
@@ -228,15 +198,15 @@ void AIHexValues(int f, double P, int unitClass) {
     AI.FrontLineHexes[g] = 0;
     AI.FrontLineUnits[g] = 0;
   }
-  for (int x = 1; x <= MapW(); ++x) {
-    for (int y = 1; y <= MapH(); ++y) {
+  for (int x = 1; x <= AIMapW(); ++x) {
+    for (int y = 1; y <= AIMapH(); ++y) {
       HexRec& h = Hex[x][y];
       h.Mark = 0;
       h.ScratchRecon = 0;
       h.Work = 0;
     }
   }
-  if (!ValidFront(f)) return;
+  if (!AIValidFront(f)) return;
   const long own = AI.FrontOwnArea[f];
   const long other = AI.FrontEnemyArea[f];
   const long stance = AI.FrontStance[f];
@@ -246,9 +216,11 @@ void AIHexValues(int f, double P, int unitClass) {
   if (other == 0 || AINoLandBorder(f)) CentreHexes(f, own);
   Flood(f, other, stance, P);
 
-  if (unitClass == kAIStaffClass || unitClass == kAIShqClass) StaffTransform();
-  if (unitClass == kAIShqClass) ShqTransform();
-  if (unitClass == kAIAirClass) AirTransform();
+  if (unitClass == kAIStaffClass || unitClass == kAIShqClass || unitClass == kAIAirClass) {
+    // Each hex's new value depends on its own old value only.
+    for (int x = 1; x <= AIMapW(); ++x)
+      for (int y = 1; y <= AIMapH(); ++y) Hex[x][y].Work = ClassValue(x, y, unitClass);
+  }
 }
 
 }  // namespace mf

@@ -23,6 +23,26 @@ class OperationsTest : public OpsTest {
       if (c == BattleWindowChange::kOpened) ++battles;
     });
   }
+  // A Red unit of the even land front on (1,2), about to climb to (3,2),
+  // on a view 100 pixels square that puts hex x at 42 x and row y at 30 y.
+  int ClimbingUnit() {
+    const int f = LandFront(2);
+    Rifles(red, 1, 2, 100, f);
+    UI.ViewW = 100;
+    UI.ViewH = 100;
+    UI.ScrollMaxX = 5000;
+    UI.ScrollMaxY = 5000;
+    UI.RedrawRequest = 0;
+    return f;
+  }
+  // Red on the full offensive against 140 Blue rifles on (4,2).
+  int FullOffensive() {
+    const int f = LandFront(4);
+    Rifles(blue, 4, 2, 140, 0, "Blue Guard");
+    Rifles(red, 3, 1, 100, f, "Red North");
+    Rifles(red, 3, 2, 100, f, "Red South");
+    return f;
+  }
   int battles = 0;
 };
 
@@ -67,10 +87,7 @@ TEST_F(OperationsTest, AreaFrontLineShowsNegativeBalances) {
 // would give): Red attacks 140 Blue rifles at 9 against 12 in its first
 // round of attacks; after that battle its attackers have no MP left.
 TEST_F(OperationsTest, FullOffensiveFightsInItsFirstRound) {
-  const int f = LandFront(4);
-  Rifles(blue, 4, 2, 140, 0, "Blue Guard");
-  Rifles(red, 3, 1, 100, f, "Red North");
-  Rifles(red, 3, 2, 100, f, "Red South");
+  FullOffensive();
   Hex[4][2].River[1] = 1;
   Hex[4][2].Entrench[6] = 2;
   Hex[1][1].Pop = 100;
@@ -100,34 +117,21 @@ TEST_F(OperationsTest, OffensiveHoldsBackAtThoseOdds) {
   EXPECT_EQ(battles, 0);
 }
 
-// Watched moves: the map centres on the unit before it moves and the square
-// around where it went is repainted. A view 100 pixels square puts hex x at
-// 42 x and row y at 30 y.
+// Watched moves: the map centres on the unit before it moves and the map
+// is repainted.
 TEST_F(OperationsTest, WatchedMoveCentresTheMap) {
-  const int f = LandFront(2);
-  Rifles(red, 1, 2, 100, f);
-  UI.ViewW = 100;
-  UI.ViewH = 100;
-  UI.ScrollMaxX = 5000;
-  UI.ScrollMaxY = 5000;
-  UI.RedrawRequest = 0;
+  const int f = ClimbingUnit();
   Game.ShowAIMoves = kTrue;
   AIHexValues(f, 20, 1);
   AIMoveAll(f, 1);
-  EXPECT_EQ(Hex[3][2].Unit[1] != 0, true);
+  EXPECT_NE(Hex[3][2].Unit[1], 0);
   EXPECT_EQ(UI.ScrollX, 42);
   EXPECT_EQ(UI.ScrollY, 60);
   EXPECT_EQ(UI.RedrawRequest, 2);
 }
 
 TEST_F(OperationsTest, UnwatchedMoveLeavesTheMapAlone) {
-  const int f = LandFront(2);
-  Rifles(red, 1, 2, 100, f);
-  UI.ViewW = 100;
-  UI.ViewH = 100;
-  UI.ScrollMaxX = 5000;
-  UI.ScrollMaxY = 5000;
-  UI.RedrawRequest = 0;
+  const int f = ClimbingUnit();
   AIHexValues(f, 20, 1);
   AIMoveAll(f, 1);
   EXPECT_NE(Hex[3][2].Unit[1], 0);
@@ -139,10 +143,7 @@ TEST_F(OperationsTest, UnwatchedMoveLeavesTheMapAlone) {
 // A watched battle is shown in the battle window, which waits for OK as
 // long as a person plays; an unwatched one is fought out of sight.
 TEST_F(OperationsTest, WatchedBattleIsShown) {
-  const int f = LandFront(4);
-  Rifles(blue, 4, 2, 140, 0, "Blue Guard");
-  Rifles(red, 3, 1, 100, f, "Red North");
-  Rifles(red, 3, 2, 100, f, "Red South");
+  FullOffensive();
   Game.ShowAIMoves = kTrue;
   bool shown = false;
   SetBattleWindowHook([&](BattleWindowChange c) {
@@ -157,10 +158,7 @@ TEST_F(OperationsTest, WatchedBattleIsShown) {
 }
 
 TEST_F(OperationsTest, UnwatchedBattleIsNotShown) {
-  const int f = LandFront(4);
-  Rifles(blue, 4, 2, 140, 0, "Blue Guard");
-  Rifles(red, 3, 1, 100, f, "Red North");
-  Rifles(red, 3, 2, 100, f, "Red South");
+  FullOffensive();
   bool shown = false;
   int fought = 0;
   SetBattleWindowHook([&](BattleWindowChange c) {

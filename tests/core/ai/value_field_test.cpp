@@ -20,7 +20,28 @@ namespace {
 
 using Grid = std::vector<std::vector<long>>;
 
-using ValueFieldTest = OpsTest;
+class ValueFieldTest : public OpsTest {
+ protected:
+  // Red's port (2,1) faces Blue across the water of column 3: Red holds
+  // columns 1-2 (area 1), Blue columns 4-5 (area 2); area worths by column
+  // 81, 100, 90 (the water) | 70, 100, with (1,2) 73 and (2,2) 90.
+  int SeaFront() {
+    MakeWorld(5, 2, 2);
+    for (int y = 1; y <= 2; ++y) {
+      Hex[3][y].Land = kSea;
+      Hex[3][y].Owner = 0;
+    }
+    Area(1, 2, 1, 1);
+    Area(2, 5, 1, 2);
+    const long worth[6] = {0, 81, 100, 90, 70, 100};
+    for (int x = 1; x <= 5; ++x) Column(x, x <= 3 ? 1 : 2, worth[x]);
+    Hex[1][2].AreaValue = 73;
+    Hex[2][2].AreaValue = 90;
+    Hex[2][1].Land = kUrban;
+    AI.AreaCoastBorder[1][2] = 2;
+    return Front(1, 2, 3);
+  }
+};
 
 TEST_F(ValueFieldTest, DefensiveLandFrontWantsItsLineAndTownsMost) {
   const int f = LandFront(1);
@@ -115,24 +136,10 @@ TEST_F(ValueFieldTest, GarrisonFrontGuardsItsTown) {
   EXPECT_EQ(AI.FrontLineHexes[f], 1);
 }
 
-// A sea front: Red's port (2,1) faces Blue across the water of column 3.
-// No line hex; the port 200 (+20), its land neighbours 100 (+16, +18), (1,2)
-// 85; the water and Blue's shore get nothing.
+// The sea front: no line hex; the port 200 (+20), its land neighbours 100
+// (+16, +18), (1,2) 85; the water and Blue's shore get nothing.
 TEST_F(ValueFieldTest, SeaFrontCentreIsThePort) {
-  MakeWorld(5, 2, 2);
-  for (int y = 1; y <= 2; ++y) {
-    Hex[3][y].Land = kSea;
-    Hex[3][y].Owner = 0;
-  }
-  Area(1, 2, 1, 1);
-  Area(2, 5, 1, 2);
-  const long worth[6] = {0, 81, 100, 90, 70, 100};
-  for (int x = 1; x <= 5; ++x) Column(x, x <= 3 ? 1 : 2, worth[x]);
-  Hex[1][2].AreaValue = 73;
-  Hex[2][2].AreaValue = 90;
-  Hex[2][1].Land = kUrban;
-  AI.AreaCoastBorder[1][2] = 2;
-  const int f = Front(1, 2, 3);
+  const int f = SeaFront();
   ASSERT_TRUE(AISeaFront(f));
   AIHexValues(f, AIPenalty(3, 1.0), 1);
   EXPECT_EQ(WorkGrid(), (Grid{{116, 220, 0, 0, 0}, {85, 118, 0, 0, 0}}));
@@ -140,16 +147,7 @@ TEST_F(ValueFieldTest, SeaFrontCentreIsThePort) {
 }
 
 TEST_F(ValueFieldTest, PortWithTransportsOrFullWantsLess) {
-  MakeWorld(5, 2, 2);
-  for (int y = 1; y <= 2; ++y) {
-    Hex[3][y].Land = kSea;
-    Hex[3][y].Owner = 0;
-  }
-  Area(1, 2, 1, 1);
-  Area(2, 5, 1, 2);
-  for (int x = 1; x <= 5; ++x) Column(x, x <= 3 ? 1 : 2, 50);
-  Hex[2][1].Land = kUrban;
-  const int f = Front(1, 2, 3);
+  const int f = SeaFront();
   // A transport in port: 120 (+ nothing, slot 1 is taken).
   const int ship = world::AddUnit(red, 2, 1, "Transports");
   Unit[ship].Theater = kSeaTheater;
