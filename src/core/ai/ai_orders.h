@@ -5,7 +5,11 @@
 // repaints what changed.
 #pragma once
 
+#include <functional>
+#include <vector>
+
 #include "model/game_state.h"
+#include "model/hex_geometry.h"
 
 namespace mf {
 
@@ -30,6 +34,14 @@ int AIMapH();
 bool AIValidFront(int f);
 // A unit number that names a unit in play.
 bool AILive(long u);
+
+// A flood over Hex.Mark, wave by wave, as a scan of the whole map per wave
+// would run it: in wave w the hexes marked w, in map order (x outer, y
+// inner). It starts from the hexes marked 1; `expand` handles one hex of
+// wave w and adds every hex it marks w + 1 to `next`. Stops after `waves`
+// waves or when a wave marks nothing.
+using AIWaveStep = std::function<void(int x, int y, long w, std::vector<HexXY>& next)>;
+void AIFloodWaves(long waves, const AIWaveStep& expand);
 
 // Kinds of unit as the computer player sorts them.
 bool AIIsHq(int u);

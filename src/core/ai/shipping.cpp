@@ -166,22 +166,18 @@ void AISeaField(int f, int mode) {
       h.Mark = 1;
     }
   }
-  for (int w = 1; w <= kSeaWaves; ++w) {
-    for (int x = 1; x <= AIMapW(); ++x) {
-      for (int y = 1; y <= AIMapH(); ++y) {
-        const HexRec& h = Hex[x][y];
-        if (h.Mark != w) continue;
-        for (int d = 1; d <= kHexSides; ++d) {
-          const HexXY n = Neighbour(x, y, d);
-          if (!OnMap(n)) continue;
-          HexRec& nh = Hex[n.x][n.y];
-          if (nh.Mark != 0 || nh.Land == kMountain) continue;
-          nh.Mark = static_cast<Short>(w + 1);
-          nh.Work = static_cast<Long>(Int(h.Work * 0.9));
-        }
-      }
+  AIFloodWaves(kSeaWaves, [](int x, int y, long w, std::vector<HexXY>& next) {
+    const HexRec& h = Hex[x][y];
+    for (int d = 1; d <= kHexSides; ++d) {
+      const HexXY n = Neighbour(x, y, d);
+      if (!OnMap(n)) continue;
+      HexRec& nh = Hex[n.x][n.y];
+      if (nh.Mark != 0 || nh.Land == kMountain) continue;
+      nh.Mark = static_cast<Short>(w + 1);
+      nh.Work = static_cast<Long>(Int(h.Work * 0.9));
+      next.push_back(n);
     }
-  }
+  });
 }
 
 void AIMoveShip(int x, int y, int slot) {

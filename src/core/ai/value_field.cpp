@@ -96,45 +96,41 @@ void CentreHexes(int f, long own) {
 // The value flows wave by wave from the marked hexes: inland at 85 in the
 // hundred, into the empty land of the other area at the price of the step.
 void Flood(int f, long other, long stance, double P) {
-  const long waves = EV(230);
-  for (long w = 1; w <= waves; ++w) {
-    for (int x = 1; x <= AIMapW(); ++x) {
-      for (int y = 1; y <= AIMapH(); ++y) {
-        HexRec& h = Hex[x][y];
-        if (h.Mark != w) continue;
-        for (int d = 1; d <= kHexSides; ++d) {
-          const HexXY n = Neighbour(x, y, d);
-          if (!OnMap(n)) continue;
-          HexRec& nh = Hex[n.x][n.y];
-          if (nh.Mark != 0 || !Walkable(nh)) continue;
-          if (Own(nh)) {
-            nh.Mark = static_cast<Short>(w + 1);
-            nh.Work = static_cast<Long>(Int(h.Work * 0.85));
-            if (nh.Land == kUrban && stance == 1) nh.Work = static_cast<Long>(CInt(nh.Work * 1.4));
-          } else if (other > 0 && nh.Area == other && nh.Unit[1] == 0) {
-            nh.Mark = static_cast<Short>(w + 1);
-            if (Own(h)) {
-              nh.Work = static_cast<Long>(Int(nh.AreaValue / 3.0 + h.Work - P));
-            } else {
-              std::int64_t v = Int(h.Work * 0.95);
-              if (w == 2) v += 15;
-              if (w == 3) v += 10;
-              if (w == 4) v += 5;
-              nh.Work = static_cast<Long>(v);
-            }
-          }
+  AIFloodWaves(EV(230), [&](int x, int y, long w, std::vector<HexXY>& next) {
+    HexRec& h = Hex[x][y];
+    for (int d = 1; d <= kHexSides; ++d) {
+      const HexXY n = Neighbour(x, y, d);
+      if (!OnMap(n)) continue;
+      HexRec& nh = Hex[n.x][n.y];
+      if (nh.Mark != 0 || !Walkable(nh)) continue;
+      if (Own(nh)) {
+        nh.Mark = static_cast<Short>(w + 1);
+        nh.Work = static_cast<Long>(Int(h.Work * 0.85));
+        if (nh.Land == kUrban && stance == 1) nh.Work = static_cast<Long>(CInt(nh.Work * 1.4));
+        next.push_back(n);
+      } else if (other > 0 && nh.Area == other && nh.Unit[1] == 0) {
+        nh.Mark = static_cast<Short>(w + 1);
+        if (Own(h)) {
+          nh.Work = static_cast<Long>(Int(nh.AreaValue / 3.0 + h.Work - P));
+        } else {
+          std::int64_t v = Int(h.Work * 0.95);
+          if (w == 2) v += 15;
+          if (w == 3) v += 10;
+          if (w == 4) v += 5;
+          nh.Work = static_cast<Long>(v);
         }
-        for (int s = 1; s <= kStackSlots; ++s) {
-          const int u = static_cast<int>(h.Unit[s]);
-          if (!ValidUnit(u) || Unit[u].Regime == 0 || Unit[u].Theater != kLandTheater) continue;
-          if (Unit[u].Front == f && !AIIsHq(u)) AI.FrontLineUnits[f] += 1;
-          h.Work -= 2 * AIUnitWorth(x, y, u, 3);
-        }
-        // An empty hex next to the line wants someone in it.
-        if (h.Unit[1] == 0 && w == 1) h.Work = static_cast<Long>(CInt(Int(h.AreaValue / 5.0) + static_cast<double>(h.Work)));
+        next.push_back(n);
       }
     }
-  }
+    for (int s = 1; s <= kStackSlots; ++s) {
+      const int u = static_cast<int>(h.Unit[s]);
+      if (!ValidUnit(u) || Unit[u].Regime == 0 || Unit[u].Theater != kLandTheater) continue;
+      if (Unit[u].Front == f && !AIIsHq(u)) AI.FrontLineUnits[f] += 1;
+      h.Work -= 2 * AIUnitWorth(x, y, u, 3);
+    }
+    // An empty hex next to the line wants someone in it.
+    if (h.Unit[1] == 0 && w == 1) h.Work = static_cast<Long>(CInt(Int(h.AreaValue / 5.0) + static_cast<double>(h.Work)));
+  });
 }
 
 // The field of a class other than the line units, hex by hex from the line
