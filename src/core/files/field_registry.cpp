@@ -17,7 +17,6 @@
 #include <type_traits>
 #include <utility>
 
-#include "ai/ai_state.h"
 #include "model/arith.h"
 #include "model/game_state.h"
 
@@ -54,7 +53,21 @@ struct FieldDef {
   int ndims = 0;
   Dim dims[2];
   Accessor at = nullptr;
+  // A plugged-in table instead of an accessor: its first element, the size
+  // of one element and the length of a row of a two-index table.
+  unsigned char* base = nullptr;
+  std::size_t elemSize = 0;
+  int rowLength = 0;
 };
+
+void* AddressOf(const FieldDef& f, const Idx& i) {
+  if (f.at) return f.at(i);
+  const std::size_t n = f.ndims == 2 ? static_cast<std::size_t>(i.f[0]) * static_cast<std::size_t>(f.rowLength) +
+                                           static_cast<std::size_t>(i.f[1])
+                        : f.ndims == 1 ? static_cast<std::size_t>(i.f[0])
+                                       : 0;
+  return f.base + n * f.elemSize;
+}
 
 struct RecordDef {
   std::string name;
@@ -123,7 +136,6 @@ GameRec& GameAt(const Idx&) { return Game; }
 UIRec& UIAt(const Idx&) { return UI; }
 OrderFlags& OrderAt(const Idx&) { return UI.Order; }
 OverlayFlags& OverlayAt(const Idx&) { return UI.Overlay; }
-AIRec& AIAt(const Idx&) { return AI; }
 
 RecordDef Rec(const char* name, std::vector<Dim> dims, std::vector<FieldDef> fields,
               const char* defaultField = "") {
@@ -265,26 +277,20 @@ std::vector<RecordDef> BuildRegistry() {
 #undef ORD
 #undef UIF
 
-  // The computer player's working tables: rebuilt on every computer turn,
-  // readable and writable so that scripts and tests can look at its analysis.
-#define AIF(F) Make<&AIAt, &AIRec::F>(#F)
-  reg.push_back(Rec("AI", {},
-                    {AIF(AreaCount), AIF(LandmassCount), AIF(FrontCount), AIF(ListCount), AIF(SupplyRatio),
-                     AIF(AreaX), AIF(AreaY), AIF(AreaValue), AIF(AreaLandmass), AIF(AreaSide),
-                     AIF(AreaOwnStrength), AIF(AreaEnemyStrength), AIF(AreaContact), AIF(AreaShq),
-                     AIF(AreaLandBorder), AIF(AreaSeaBorder), AIF(AreaCoastBorder), AIF(AreaLandDist),
-                     AIF(AreaSeaDist), AIF(FrontOwnArea), AIF(FrontEnemyArea), AIF(FrontWeight),
-                     AIF(FrontShare), AIF(FrontStrength), AIF(FrontStance), AIF(FrontLineHexes),
-                     AIF(FrontLineUnits), AIF(FrontBalance), AIF(ListA), AIF(ListB), AIF(ListScore),
-                     AIF(ShqNeedsLand), AIF(BestType), AIF(TypeShare)}));
-#undef AIF
-
   return reg;
 }
 
-const std::vector<RecordDef>& Registry() {
-  static const std::vector<RecordDef> registry = BuildRegistry();
+std::vector<RecordDef>& Registry() {
+  static std::vector<RecordDef> registry = BuildRegistry();
   return registry;
+}
+
+Kind KindOfPlugged(PluggedKind k) {
+  switch (k) {
+    case PluggedKind::kShort: return Kind::kShort;
+    case PluggedKind::kDouble: return Kind::kDouble;
+    default: return Kind::kLong;
+  }
 }
 
 // ---- Names -----------------------------------------------------------------
@@ -486,7 +492,7 @@ bool GetField(const std::string& name, std::string* value, std::string* why) {
   const FieldDef* f = nullptr;
   Idx idx;
   if (!Resolve(name, false, &f, &idx, why)) return false;
-  void* p = f->at(idx);
+  void* p = AddressOf(*f, idx);
   switch (f->kind) {
     case Kind::kLong:
     case Kind::kBool:
@@ -514,7 +520,7 @@ bool SetField(const std::string& name, const std::string& value, std::string* wh
   const FieldDef* f = nullptr;
   Idx idx;
   if (!Resolve(name, true, &f, &idx, why)) return false;
-  void* p = f->at(idx);
+  void* p = AddressOf(*f, idx);
   std::int64_t n = 0;
   switch (f->kind) {
     case Kind::kLong:
@@ -543,6 +549,35 @@ bool SetField(const std::string& name, const std::string& value, std::string* wh
       break;
   }
   return true;
+}
+
+void AddFieldRecord(const std::string& record, const std::vector<PluggedField>& fields) {
+  RecordDef r;
+  r.name = record;
+  for (const PluggedField& pf : fields) {
+    FieldDef f;
+    f.name = pf.name;
+    f.kind = KindOfPlugged(pf.kind);
+    f.ndims = pf.ndims;
+    // Slot 0 of a one-index table reads as none; a two-index table is
+    // stored 0-based in both, as the route planes are.
+    if (pf.ndims == 1) f.dims[0] = {pf.extent[0] - 1, 1};
+    if (pf.ndims == 2) {
+      f.dims[0] = {pf.extent[0] - 1, 0};
+      f.dims[1] = {pf.extent[1] - 1, 0};
+    }
+    f.base = static_cast<unsigned char*>(pf.base);
+    f.elemSize = pf.elemSize;
+    f.rowLength = pf.extent[1];
+    r.fields.push_back(std::move(f));
+  }
+  for (auto& existing : Registry()) {
+    if (existing.name == record) {
+      existing = std::move(r);
+      return;
+    }
+  }
+  Registry().push_back(std::move(r));
 }
 
 std::vector<std::string> FieldPatterns() {
