@@ -27,6 +27,13 @@ class ScenarioRobust : public CoreTest {
   }
 };
 
+// Puts value on the line of the named field in a save's lines.
+void SetLine(std::vector<std::string>& lines, const std::string& name, const std::string& value) {
+  const auto at = LinesOf(name);
+  ASSERT_FALSE(at.empty()) << name;
+  lines[at[0]] = value;
+}
+
 bool In(long v, long lo, long hi) { return v >= lo && v <= hi; }
 
 // "" when every count and every index field is inside its table; else the first that is not.
@@ -156,13 +163,8 @@ TEST_F(ScenarioRobust, StockWidthOf9999IsHeldTo500) {
 TEST_F(ScenarioRobust, ValuesOutsideTheirRangeReadAsTheRulesKeepThem) {
   SmallScenario();
   Game.TypeCount = 1;
-  const std::string plain = SerializeScenario();
-  auto lines = SplitLines(plain);
-  auto set = [&](const std::string& name, const std::string& value) {
-    const auto at = LinesOf(name);
-    ASSERT_FALSE(at.empty()) << name;
-    lines[at[0]] = value;
-  };
+  auto lines = SplitLines(SerializeScenario());
+  auto set = [&lines](const std::string& name, const std::string& value) { SetLine(lines, name, value); };
   set("Dip[1,2].Cost", "-5 ");
   set("Dip[2,1].Cost", " 0 ");
   set("Dip[1,2].Relation", " 7 ");
@@ -215,13 +217,8 @@ TEST_F(ScenarioRobust, IndexFieldsNamingNothingReadAsZero) {
   Game.OfficerCount = 1;
   Game.EventCount = 1;
   Event[1].Story = "An event";
-  const std::string plain = SerializeScenario();
-  auto lines = SplitLines(plain);
-  auto set = [&](const std::string& name, const std::string& value) {
-    const auto at = LinesOf(name);
-    ASSERT_FALSE(at.empty()) << name;
-    lines[at[0]] = value;
-  };
+  auto lines = SplitLines(SerializeScenario());
+  auto set = [&lines](const std::string& name, const std::string& value) { SetLine(lines, name, value); };
   set("Hex[2,2].Unit[1]", " 7000 ");
   set("Hex[3,3].Unit[1]", "-1 ");
   set("Hex[4,4].Unit[1]", " 2000 ");  // the last unit number is a unit
