@@ -1,5 +1,6 @@
 #include "script_runner.h"
 
+#include <algorithm>
 #include <exception>
 #include <filesystem>
 #include <ostream>
@@ -7,6 +8,8 @@
 #include <sstream>
 #include <vector>
 
+#include "ai/ai_turn.h"
+#include "ai/stage_names.h"
 #include "combat/battle_window.h"
 #include "engine/show_supply.h"
 #include "engine/turn_cycle.h"
@@ -94,13 +97,21 @@ bool Seed(Run&, const Words& a, std::string* why) {
   return true;
 }
 
-bool NewScenario(Run&, const Words& a, std::string*) {
+bool NewScenario(Run&, const Words& a, std::string* why) {
+  if (!MapSizeWords(a[0], a[1], why)) {
+    *why = "new: " + *why;
+    return false;
+  }
   MakeItSo(true, a[0], a[1]);
   AfterClearCommand(true);
   return true;
 }
 
-bool ClearMap(Run&, const Words& a, std::string*) {
+bool ClearMap(Run&, const Words& a, std::string* why) {
+  if (!MapSizeWords(a[0], a[1], why)) {
+    *why = "clearmap: " + *why;
+    return false;
+  }
   MakeItSo(false, a[0], a[1]);
   AfterClearCommand(false);
   return true;
@@ -231,6 +242,26 @@ bool Tick(Run&, const Words& a, std::string* why) {
   return true;
 }
 
+// The computer player for Game.CurRegime: "ai turn" plays its whole turn,
+// "ai AIClear AIFindAreas ..." runs those stages in that order. Every name
+// is checked before anything runs.
+bool AIStages(Run&, const Words& a, std::string* why) {
+  if (a.size() == 1 && a[0] == "turn") {
+    AITurn();
+    return true;
+  }
+  const std::vector<std::string> known = AIStageNames();
+  for (const std::string& name : a) {
+    if (std::find(known.begin(), known.end(), name) != known.end()) continue;
+    *why = "ai: no stage \"" + name + "\" (turn, or stages among:";
+    for (const std::string& k : known) *why += " " + k;
+    *why += ")";
+    return false;
+  }
+  for (const std::string& name : a) RunAIStage(name);
+  return true;
+}
+
 // A whole number of a script word, within lo..hi.
 bool WholeNumberIn(const std::string& word, long lo, long hi, long* n) {
   if (!IsWholeNumber(word)) return false;
@@ -341,6 +372,8 @@ bool Rename(Run&, const Words&, std::string*) {
 // missing). A folder without pictures of its own borrows those of the
 // program folder it replaces, so that officers still find their portraits.
 bool ProgramDirCommand(Run& run, const Words& a, std::string* why) {
+  // An empty name is a cancelled folder choice: the program folder stays.
+  if (a[0].empty()) return true;
   const fs::path dir = fs::path(run.Path(a[0])).lexically_normal();
   std::error_code ec;
   fs::create_directories(dir / "scenarios", ec);
@@ -372,6 +405,7 @@ const Command kCommands[] = {
     {"answer", 1, -1, "answer A [A ...]", &Answer},
     {"on", 1, -1, "on DIALOG ACTION ...", &On},
     {"tick", 0, 1, "tick [N]", &Tick},
+    {"ai", 1, -1, "ai turn | ai NAME [NAME ...]", &AIStages},
     {"start", 0, -1,
      "start [fog=0/1] [exploration=0/1] [pbem=0/1] [passwords=0/1] [aibonus=0/1] [ai=1,0,..] [email=a,b,..]",
      &Start},
@@ -473,9 +507,9 @@ int RunScriptText(const std::string& text, const std::string& name, const std::s
 }
 
 int RunScriptFile(const std::string& path, std::ostream& out, std::ostream& err) {
-  std::string text;
-  if (!ReadBytes(path, &text)) {
-    err << "cannot read script " << path << "\n";
+  std::string text, why;
+  if (!ReadBytes(path, &text, &why)) {
+    err << "cannot read script " << path << ": " << why << "\n";
     return 1;
   }
   const fs::path p(path);

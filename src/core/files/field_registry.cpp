@@ -17,7 +17,7 @@
 #include <type_traits>
 #include <utility>
 
-#include "ai/ai_state.h"
+#include "files/scenario_schema.h"
 #include "model/arith.h"
 #include "model/game_state.h"
 
@@ -54,7 +54,21 @@ struct FieldDef {
   int ndims = 0;
   Dim dims[2];
   Accessor at = nullptr;
+  // A plugged-in table instead of an accessor: its first element, the size
+  // of one element and the length of a row of a two-index table.
+  unsigned char* base = nullptr;
+  std::size_t elemSize = 0;
+  int rowLength = 0;
 };
+
+void* AddressOf(const FieldDef& f, const Idx& i) {
+  if (f.at) return f.at(i);
+  const std::size_t n = f.ndims == 2 ? static_cast<std::size_t>(i.f[0]) * static_cast<std::size_t>(f.rowLength) +
+                                           static_cast<std::size_t>(i.f[1])
+                        : f.ndims == 1 ? static_cast<std::size_t>(i.f[0])
+                                       : 0;
+  return f.base + n * f.elemSize;
+}
 
 struct RecordDef {
   std::string name;
@@ -123,7 +137,6 @@ GameRec& GameAt(const Idx&) { return Game; }
 UIRec& UIAt(const Idx&) { return UI; }
 OrderFlags& OrderAt(const Idx&) { return UI.Order; }
 OverlayFlags& OverlayAt(const Idx&) { return UI.Overlay; }
-AIRec& AIAt(const Idx&) { return AI; }
 
 RecordDef Rec(const char* name, std::vector<Dim> dims, std::vector<FieldDef> fields,
               const char* defaultField = "") {
@@ -265,26 +278,20 @@ std::vector<RecordDef> BuildRegistry() {
 #undef ORD
 #undef UIF
 
-  // The computer player's working tables: rebuilt on every computer turn,
-  // readable and writable so that scripts and tests can look at its analysis.
-#define AIF(F) Make<&AIAt, &AIRec::F>(#F)
-  reg.push_back(Rec("AI", {},
-                    {AIF(AreaCount), AIF(LandmassCount), AIF(FrontCount), AIF(ListCount), AIF(SupplyRatio),
-                     AIF(AreaX), AIF(AreaY), AIF(AreaValue), AIF(AreaLandmass), AIF(AreaSide),
-                     AIF(AreaOwnStrength), AIF(AreaEnemyStrength), AIF(AreaContact), AIF(AreaShq),
-                     AIF(AreaLandBorder), AIF(AreaSeaBorder), AIF(AreaCoastBorder), AIF(AreaLandDist),
-                     AIF(AreaSeaDist), AIF(FrontOwnArea), AIF(FrontEnemyArea), AIF(FrontWeight),
-                     AIF(FrontShare), AIF(FrontStrength), AIF(FrontStance), AIF(FrontLineHexes),
-                     AIF(FrontLineUnits), AIF(FrontBalance), AIF(ListA), AIF(ListB), AIF(ListScore),
-                     AIF(ShqNeedsLand), AIF(BestType), AIF(TypeShare)}));
-#undef AIF
-
   return reg;
 }
 
-const std::vector<RecordDef>& Registry() {
-  static const std::vector<RecordDef> registry = BuildRegistry();
+std::vector<RecordDef>& Registry() {
+  static std::vector<RecordDef> registry = BuildRegistry();
   return registry;
+}
+
+Kind KindOfPlugged(PluggedKind k) {
+  switch (k) {
+    case PluggedKind::kShort: return Kind::kShort;
+    case PluggedKind::kDouble: return Kind::kDouble;
+    default: return Kind::kLong;
+  }
 }
 
 // ---- Names -----------------------------------------------------------------
@@ -407,7 +414,8 @@ bool CheckIndices(const std::string& name, const std::string& what, int ndims, c
 }
 
 // Finds the field a name points at, with all indices checked.
-bool Resolve(const std::string& name, bool forWrite, const FieldDef** field, Idx* idx, std::string* why) {
+bool Resolve(const std::string& name, bool forWrite, const FieldDef** field, Idx* idx, std::string* why,
+             const RecordDef** record = nullptr) {
   ParsedName p;
   if (!ParseName(name, &p, why)) return false;
   const RecordDef* rec = nullptr;
@@ -440,6 +448,7 @@ bool Resolve(const std::string& name, bool forWrite, const FieldDef** field, Idx
     idx->f[d] = p.fieldIdx[d];
   }
   *field = f;
+  if (record != nullptr) *record = rec;
   return true;
 }
 
@@ -449,10 +458,29 @@ std::string Lower(std::string s) {
   return s;
 }
 
-// A whole number from a value text, taken by Val and truncated; refused when
-// it does not fit the field's width.
+// Whether a value text is a number and nothing else: blanks, a sign, digits,
+// a decimal fraction. "1e10", "12abc" and "" are not.
+bool IsPlainNumber(const std::string& value) {
+  const std::string t = Trim(value);
+  std::size_t i = 0;
+  if (i < t.size() && (t[i] == '-' || t[i] == '+')) ++i;
+  bool digits = false;
+  while (i < t.size() && t[i] >= '0' && t[i] <= '9') digits = (++i, true);
+  if (i < t.size() && t[i] == '.') {
+    ++i;
+    while (i < t.size() && t[i] >= '0' && t[i] <= '9') digits = (++i, true);
+  }
+  return digits && i == t.size();
+}
+
+// A whole number from a value text, truncated; refused when the text is not
+// a plain number or does not fit the field's width.
 bool NumberFor(const std::string& name, const std::string& value, double lo, double hi, const char* width,
                std::int64_t* out, std::string* why) {
+  if (!IsPlainNumber(value)) {
+    *why = Quoted(name) + ": value \"" + value + "\" is not a number";
+    return false;
+  }
   const double v = std::trunc(Val(value));
   if (v < lo || v > hi) {
     *why = Quoted(name) + ": value " + Trim(value) + " does not fit a " + width + " field";
@@ -486,7 +514,7 @@ bool GetField(const std::string& name, std::string* value, std::string* why) {
   const FieldDef* f = nullptr;
   Idx idx;
   if (!Resolve(name, false, &f, &idx, why)) return false;
-  void* p = f->at(idx);
+  void* p = AddressOf(*f, idx);
   switch (f->kind) {
     case Kind::kLong:
     case Kind::kBool:
@@ -512,20 +540,34 @@ bool SetField(const std::string& name, const std::string& value, std::string* wh
   std::string scratch;
   if (!why) why = &scratch;
   const FieldDef* f = nullptr;
+  const RecordDef* rec = nullptr;
   Idx idx;
-  if (!Resolve(name, true, &f, &idx, why)) return false;
-  void* p = f->at(idx);
+  if (!Resolve(name, true, &f, &idx, why, &rec)) return false;
+  void* p = AddressOf(*f, idx);
   std::int64_t n = 0;
+  // A saved field takes only what a load of the file would keep as it is.
+  auto inFileRange = [&](std::int64_t v) {
+    FieldRec fr{};
+    if (!FieldRecOf(rec->name, &fr)) return true;
+    const Check c = SchemaCheckOf(fr, fr == FieldRec::kEngineVar ? std::to_string(idx.r[0]) : f->name);
+    if (CheckAccepts(static_cast<Long>(v), c)) return true;
+    *why = Quoted(name) + ": value " + Trim(value) + " is outside what a scenario file holds there" +
+           (c.mode == Check::kZeroIs999 ? " (0 or more)"
+                                        : " (" + std::to_string(c.lo) + ".." + std::to_string(c.hi) + ")");
+    return false;
+  };
   switch (f->kind) {
     case Kind::kLong:
       if (!NumberFor(name, value, std::numeric_limits<Long>::min(), std::numeric_limits<Long>::max(), "long", &n,
-                     why))
+                     why) ||
+          !inFileRange(n))
         return false;
       *static_cast<Long*>(p) = static_cast<Long>(n);
       break;
     case Kind::kShort:
       if (!NumberFor(name, value, std::numeric_limits<Short>::min(), std::numeric_limits<Short>::max(), "short",
-                     &n, why))
+                     &n, why) ||
+          !inFileRange(n))
         return false;
       *static_cast<Short*>(p) = static_cast<Short>(n);
       break;
@@ -543,6 +585,35 @@ bool SetField(const std::string& name, const std::string& value, std::string* wh
       break;
   }
   return true;
+}
+
+void AddFieldRecord(const std::string& record, const std::vector<PluggedField>& fields) {
+  RecordDef r;
+  r.name = record;
+  for (const PluggedField& pf : fields) {
+    FieldDef f;
+    f.name = pf.name;
+    f.kind = KindOfPlugged(pf.kind);
+    f.ndims = pf.ndims;
+    // Slot 0 of a one-index table reads as none; a two-index table is
+    // stored 0-based in both, as the route planes are.
+    if (pf.ndims == 1) f.dims[0] = {pf.extent[0] - 1, 1};
+    if (pf.ndims == 2) {
+      f.dims[0] = {pf.extent[0] - 1, 0};
+      f.dims[1] = {pf.extent[1] - 1, 0};
+    }
+    f.base = static_cast<unsigned char*>(pf.base);
+    f.elemSize = pf.elemSize;
+    f.rowLength = pf.extent[1];
+    r.fields.push_back(std::move(f));
+  }
+  for (auto& existing : Registry()) {
+    if (existing.name == record) {
+      existing = std::move(r);
+      return;
+    }
+  }
+  Registry().push_back(std::move(r));
 }
 
 std::vector<std::string> FieldPatterns() {
