@@ -15,6 +15,11 @@ namespace mf {
 // the flood's Hex.Mark then stands, and hexes within reach draw dark.
 bool RangeModeOn();
 
+// True when the current regime has never seen hex (x, y) and the fog of
+// exploration hides it: the map shows the white hex and nothing of what
+// stands or grows there.
+bool HexUnexplored(int x, int y);
+
 // Paints hex (x, y) onto the map canvas: terrain, counters, urban markers,
 // grid and the overlays that are switched on. Hexes outside the map window
 // are skipped.
