@@ -7,7 +7,6 @@
 #include "combat/attack.h"
 #include "orders/movement.h"
 #include "platform/platform.h"
-#include "view/draw_hex.h"
 
 namespace mf {
 

@@ -8,9 +8,11 @@
 #include "ai/analysis_log.h"
 #include "ai/areas.h"
 #include "ai/fronts.h"
+#include "ai/operations.h"
+#include "ai/reshape.h"
 #include "model/game_state.h"
 #include "model/rnd.h"
-#include "orders/order_state.h"
+#include "orders/order_buttons.h"
 #include "platform/platform.h"
 
 namespace mf {
@@ -87,10 +89,13 @@ void AITurn() {
 
   // 6. Fighting and moving, front by front.
   Phase(6);
+  AIOperations();
   YieldToWindow();
 
   // 7. Reshaping units after the fighting.
   Phase(7);
+  AIUnitSplitMerge();
+  AIMergeNaval();
   YieldToWindow();
 
   // 8. to 12. Which SHQ serves which area and town, research, production.

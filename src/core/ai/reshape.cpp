@@ -7,13 +7,13 @@
 #include "ai/sorted_list.h"
 #include "ai/unit_worth.h"
 #include "model/arith.h"
+#include "model/counter_pic.h"
 #include "model/game_state.h"
+#include "model/stack.h"
 #include "orders/command.h"
 #include "orders/new_units.h"
 #include "orders/transfer.h"
 #include "orders/transport.h"
-#include "view/counter.h"
-#include "view/selection.h"
 
 namespace mf {
 namespace {

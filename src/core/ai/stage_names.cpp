@@ -2,6 +2,8 @@
 
 #include "ai/areas.h"
 #include "ai/fronts.h"
+#include "ai/operations.h"
+#include "ai/reshape.h"
 
 namespace mf {
 namespace {
@@ -19,6 +21,9 @@ const Stage kStages[] = {
     {"AIFindFronts", &AIFindFronts},
     {"AIAssignFronts", &AIAssignFronts},
     {"AIMoveThqFront", &AIMoveThqFront},
+    {"AIOperations", &AIOperations},
+    {"AIUnitSplitMerge", &AIUnitSplitMerge},
+    {"AIMergeNaval", &AIMergeNaval},
 };
 
 }  // namespace

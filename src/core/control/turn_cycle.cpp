@@ -19,6 +19,7 @@
 #include "engine/supply.h"
 #include "model/arith.h"
 #include "model/game_state.h"
+#include "model/hex_geometry.h"
 #include "model/reset.h"
 #include "orders/flood.h"
 #include "orders/movement.h"
