@@ -513,7 +513,11 @@ void MainWindow::SyncWithGame() {
   }
 
   // The map: scroll bars, then what the game asked to be redrawn.
-  map_->SetInteractive(!UI.BusyPointer);
+  // While the computer plays, and until the timer ends its turn, the map is
+  // only watched: a press on it would give orders to the computer's units.
+  const bool computerToMove = UI.EditMode == 0 && Game.Turn > 0 && ValidRegime(static_cast<int>(Game.CurRegime)) &&
+                              Regime[Game.CurRegime].AI > 0;
+  map_->SetInteractive(!UI.BusyPointer && !computerToMove);
   map_->SyncFromGame();
   const bool redraw = UI.RedrawRequest > 0;
   map_->RedrawRequested();

@@ -322,7 +322,9 @@ void NextTurn() {
     SightPass();
     if (Game.FogOfWar == 0) Game.ShowAIMoves = kTrue;
     if (Game.FogOfWar == 1) Game.ShowAIMoves = kFalse;
-    UI.MapShown = false;
+    // Without fog the players watch the computer's moves on the map; with
+    // fog they see nothing of its turn. Either way the map takes no clicks.
+    UI.MapShown = Game.ShowAIMoves != kFalse;
     SetBusyPointer(true);
     Step("AITurn");
     AITurn();
