@@ -146,6 +146,81 @@ TEST_F(Golden, SupplyFloodsOfTheBenchmarkWorldAndEveryShippedScenario) {
   golden.Check();
 }
 
+// Floods of the benchmark world at the edges of the reach: none at all, a
+// reach beyond the map, a reach as long as the out-of-reach cost and beyond
+// it (where the hexes the flood never reached carry that wave's number), and
+// the editor's flood.
+TEST_F(Golden, SupplyFloodsAtTheEdgesOfTheReach) {
+  GoldenFile golden("flood_edges_golden.txt");
+  bench::BuildTurnWorld();
+  UI.EditMode = 0;
+  Game.CurRegime = 1;
+  const int shq = Shq[1][7].Unit;
+  int formation = 0;
+  for (int x = 1; x <= Game.MapW; ++x)
+    for (int y = 1; y <= Game.MapH; ++y)
+      for (int s = 1; s <= kStackSlots; ++s) {
+        const int u = Hex[x][y].Unit[s];
+        if (u == shq || (u != 0 && formation == 0 && Unit[u].Shq == 0 && Unit[u].Thq == 0)) {
+          if (u != shq) formation = u;
+          if (u == shq || formation == u) {
+            UI.OrdX = x;
+            UI.OrdY = y;
+            UI.OrdSlot = s;
+            if (u != shq) {
+              for (const Long mp : {-5, 0, 1, 60, 200}) {
+                Unit[u].MP = mp;
+                SupplyFlood(true);
+                golden.Put("formation mp " + std::to_string(mp), FloodDigest());
+              }
+            }
+          }
+        }
+      }
+  ASSERT_NE(formation, 0);
+  // The SHQ: its hex found again, then its reach from engine variable 230.
+  for (int x = 1; x <= Game.MapW; ++x)
+    for (int y = 1; y <= Game.MapH; ++y)
+      for (int s = 1; s <= kStackSlots; ++s)
+        if (Hex[x][y].Unit[s] == shq) {
+          UI.OrdX = x;
+          UI.OrdY = y;
+          UI.OrdSlot = s;
+        }
+  for (const Long range : {997L, 998L, 999L, 1000L, 1003L}) {
+    EngineVar[230].Value = range;
+    SupplyFlood(true);
+    golden.Put("shq range " + std::to_string(range), FloodDigest());
+  }
+  EngineVar[230].Value = 50;
+  UI.EditMode = 1;
+  SupplyFlood(true);
+  golden.Put("editor", FloodDigest());
+
+  // Routes over the sea that land on open shore, with a reach beyond the
+  // out-of-reach cost: the islands of the second scenario.
+  ASSERT_TRUE(LoadShipped("scenario2.mf1"));
+  UI.EditMode = 0;
+  for (const Long range : {30L, 1000L}) {
+    EngineVar[230].Value = range;
+    for (int r = 1; r <= Game.RegimeCount; ++r) {
+      Game.CurRegime = r;
+      for (int x = 1; x <= Game.MapW; ++x)
+        for (int y = 1; y <= Game.MapH; ++y)
+          for (int s = 1; s <= kStackSlots; ++s) {
+            const int u = Hex[x][y].Unit[s];
+            if (!ValidUnit(u) || Unit[u].Regime != r || Unit[u].Shq == 0) continue;
+            UI.OrdX = x;
+            UI.OrdY = y;
+            UI.OrdSlot = s;
+            SupplyFlood(true);
+            golden.Put("scenario2 range " + std::to_string(range) + " shq " + std::to_string(u), FloodDigest());
+          }
+    }
+  }
+  golden.Check();
+}
+
 TEST_F(Golden, TurnStartsOfTheBenchmarkWorldAndEveryShippedScenario) {
   GoldenFile golden("turn_start_golden.txt");
   bench::BuildTurnWorld();
