@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstdint>
+#include <vector>
 
 #include "model/arith.h"
 #include "model/game_state.h"
@@ -146,6 +147,32 @@ bool AcceptStep(const HexRec& cur, const HexRec& n, long c) {
   return true;
 }
 
+// The hexes a wave walks. The rules walk every hex of the box in each wave,
+// column by column and top to bottom, and expand those that carry the
+// wave's number; only hexes the wave before gave that number can carry it,
+// so the flood keeps them in a list, in that same order, and walks only
+// those. Every tie between two routes thus falls as the walk over the box
+// lets it fall, and the step cost carried from one step to the next sees
+// the same steps in the same order.
+//
+// A hex is kept as x * (kMapCap + 1) + y, so that the order of the numbers
+// is the order of the walk.
+constexpr int kColumn = kMapCap + 1;
+
+struct WaveScratch {
+  std::vector<int> walk;     // the wave being walked
+  std::vector<int> next;     // hexes given the next wave's number, as they came
+  std::vector<int> reached;  // hexes in the box whose cost was written
+  // reachedIn[x][y] == serial when the hex is in `reached` for this flood.
+  std::vector<unsigned> reachedIn = std::vector<unsigned>(kColumn * kColumn, 0u);
+  unsigned serial = 0;
+};
+
+WaveScratch& Scratch() {
+  static WaveScratch scratch;
+  return scratch;
+}
+
 }  // namespace
 
 long TownSupply(int x, int y) {
@@ -191,58 +218,99 @@ void SupplyFlood(bool seaAllowed) {
   const int minX = std::max(1, ox - (reach + 1)), maxX = std::min(MapW(), ox + reach + 1);
   const int minY = std::max(1, oy - (reach + 1)), maxY = std::min(MapH(), oy + reach + 1);
 
+  WaveScratch& ws = Scratch();
+  if (++ws.serial == 0) {
+    std::fill(ws.reachedIn.begin(), ws.reachedIn.end(), 0u);
+    ws.serial = 1;
+  }
+  ws.walk.clear();
+  ws.next.clear();
+  ws.reached.clear();
+  const int origin = ox * kColumn + oy;
+  ws.walk.push_back(origin);
+  ws.reached.push_back(origin);
+  ws.reachedIn[origin] = ws.serial;
+
   // The step cost lives for the whole flood: a landscape the cost table does
   // not know keeps the cost of the step before.
   long c = 0;
   for (int w = 1; w <= reach; ++w) {
-    for (int x = minX; x <= maxX; ++x) {
-      for (int y = minY; y <= maxY; ++y) {
-        HexRec& cur = Hex[x][y];
-        if (cur.Mark > reach || cur.Wave != w) continue;
-        for (int dir = 1; dir <= kHexSides; ++dir) {
-          const HexXY nn = Neighbour(x, y, dir);
-          if (nn.x < 1 || nn.y < 1) continue;
-          HexRec& n = Hex[nn.x][nn.y];
-          // 1. Landscape.
-          switch (n.Land) {
-            case kGrass: c = EV(21); break;
-            case kForest: c = EV(22); break;
-            case kUrban: c = EV(23); break;
-            case kSwamp: c = EV(25); break;
-            case kMountain: c = EV(26); break;
-            default: break;
-          }
-          // 2. Roads, and a road running into a town or out of one.
-          if ((HasRoad(cur) && HasRoad(n)) || (HasRoad(cur) && n.Land == kUrban) ||
-              (cur.Land == kUrban && HasRoad(n)))
-            c = EV(27);
-          // 3. Taking to sea.
-          if (IsSea(n)) c = SeaBlocked(x, y, nn.x, nn.y, seaAllowed) ? kOut : EV(24);
-          // 4. Coming ashore costs a sea step whatever the land.
-          if (IsSea(cur) && !IsSea(n)) c = EV(24);
-          // 5. A route that has landed does not land again (swamp and mountain excepted).
-          if (IsSea(cur) && n.Land < kSea && cur.PathPortX != 0) c = kOut;
-          // 6.
-          if (IsSea(cur) && !IsSea(n) && n.Mark > 0 && n.PathPortX > 0) c = kOut;
-          // 7. Supply crosses only the regime's own land, and the sea.
-          if (!IsSea(n) && n.Owner != Game.CurRegime) c = kOut;
+    if (w == kOut) {
+      // The hexes the flood never reached still carry the out-of-reach wave
+      // number and a cost within a reach this long: this one wave walks them
+      // all, the whole box in its order.
+      ws.walk.clear();
+      for (int x = minX; x <= maxX; ++x)
+        for (int y = minY; y <= maxY; ++y) ws.walk.push_back(x * kColumn + y);
+    } else if (ws.walk.empty()) {
+      // Nothing left to walk: the flood is done, unless its reach takes it
+      // to that one wave.
+      if (reach < kOut || w > kOut) break;
+      w = kOut - 1;
+      continue;
+    }
+    for (const int cell : ws.walk) {
+      const int x = cell / kColumn, y = cell % kColumn;
+      HexRec& cur = Hex[x][y];
+      if (cur.Mark > reach || cur.Wave != w) continue;
+      for (int dir = 1; dir <= kHexSides; ++dir) {
+        const HexXY nn = Neighbour(x, y, dir);
+        if (nn.x < 1 || nn.y < 1) continue;
+        HexRec& n = Hex[nn.x][nn.y];
+        // 1. Landscape.
+        switch (n.Land) {
+          case kGrass: c = EV(21); break;
+          case kForest: c = EV(22); break;
+          case kUrban: c = EV(23); break;
+          case kSwamp: c = EV(25); break;
+          case kMountain: c = EV(26); break;
+          default: break;
+        }
+        // 2. Roads, and a road running into a town or out of one.
+        if ((HasRoad(cur) && HasRoad(n)) || (HasRoad(cur) && n.Land == kUrban) ||
+            (cur.Land == kUrban && HasRoad(n)))
+          c = EV(27);
+        // 3. Taking to sea.
+        if (IsSea(n)) c = SeaBlocked(x, y, nn.x, nn.y, seaAllowed) ? kOut : EV(24);
+        // 4. Coming ashore costs a sea step whatever the land.
+        if (IsSea(cur) && !IsSea(n)) c = EV(24);
+        // 5. A route that has landed does not land again (swamp and mountain excepted).
+        if (IsSea(cur) && n.Land < kSea && cur.PathPortX != 0) c = kOut;
+        // 6.
+        if (IsSea(cur) && !IsSea(n) && n.Mark > 0 && n.PathPortX > 0) c = kOut;
+        // 7. Supply crosses only the regime's own land, and the sea.
+        if (!IsSea(n) && n.Owner != Game.CurRegime) c = kOut;
 
-          if (!AcceptStep(cur, n, c)) continue;
-          n.Mark = ToMark(cur.Mark + c);
-          n.Wave = w + 1;
-          CarryRoute(cur, n, nn.x, nn.y);
+        if (!AcceptStep(cur, n, c)) continue;
+        n.Mark = ToMark(cur.Mark + c);
+        const bool queued = n.Wave == w + 1;
+        n.Wave = w + 1;
+        CarryRoute(cur, n, nn.x, nn.y);
+        // Hexes outside the box are written but never walked.
+        if (nn.x < minX || nn.x > maxX || nn.y < minY || nn.y > maxY) continue;
+        const int cellN = nn.x * kColumn + nn.y;
+        if (!queued) ws.next.push_back(cellN);
+        if (ws.reachedIn[cellN] != ws.serial) {
+          ws.reachedIn[cellN] = ws.serial;
+          ws.reached.push_back(cellN);
         }
       }
     }
+    std::sort(ws.next.begin(), ws.next.end());
+    std::swap(ws.walk, ws.next);
+    ws.next.clear();
   }
 
   FloodMinX = minX;
   FloodMinY = minY;
   FloodMaxX = maxX;
   FloodMaxY = maxY;
-  for (int x = minX; x <= maxX; ++x)
-    for (int y = minY; y <= maxY; ++y)
-      if (Hex[x][y].Mark > reach) Hex[x][y].Mark = kOut;
+  // Costs beyond the reach read as out of reach; only hexes of the box that
+  // the flood wrote can hold one.
+  for (const int cell : ws.reached) {
+    HexRec& h = Hex[cell / kColumn][cell % kColumn];
+    if (h.Mark > reach) h.Mark = kOut;
+  }
 }
 
 }  // namespace mf
