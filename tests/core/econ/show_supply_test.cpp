@@ -118,7 +118,7 @@ TEST_F(ShowSupplyTest, TheFigureIsPrintedOnTheSHQsHex) {
   canvas.Reset();
   DrawHex(2, 2);
   // 100 made less 30 asked, in green at the hex centre (84, 60) less (16, 6).
-  EXPECT_EQ(canvas.Ops().back(), "text 70 68 54 arial 9 65280");
+  EXPECT_EQ(canvas.Ops().back(), "text 70 76 71 arial 9 65280");
   InstallMapCanvas(nullptr);
 }
 
