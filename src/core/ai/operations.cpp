@@ -68,6 +68,8 @@ std::string AIAreaFrontLine(int f) {
 void AIOperations() {
   AISupplyRatio();
   for (int f = 1; f <= AI.FrontCount && f <= kFrontCap; ++f) {
+    // The player is quitting: the turn stops between two fronts.
+    if (AI.StopRequested) return;
     const double R = AI.SupplyRatio;
     const long stance = AI.FrontStance[f];
     AIClearWork(f);
