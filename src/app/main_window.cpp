@@ -425,6 +425,8 @@ void MainWindow::BuildMenus() {
   auto* zooms = new QActionGroup(this);
   zooms->addAction(zoom1);
   zooms->addAction(zoom2);
+  // Ctrl and the wheel zoom too; the menu's tick follows.
+  connect(map_, &MapWidget::ZoomChanged, this, [zoom1, zoom2](int z) { (z == 2 ? zoom2 : zoom1)->setChecked(true); });
   connect(zoom1, &QAction::triggered, this, [this] { map_->SetZoom(1); });
   connect(zoom2, &QAction::triggered, this, [this] { map_->SetZoom(2); });
   actions_["zoom1"] = zoom1;
