@@ -13,24 +13,24 @@
 #include <QScrollArea>
 #include <QVBoxLayout>
 
-#include "engine/turn_cycle.h"
-#include "files/scenario_file.h"
+#include "control/keyboard.h"
+#include "control/menu_state.h"
+#include "control/order_state.h"
+#include "control/scenario_flow.h"
+#include "control/selection.h"
+#include "control/turn_cycle.h"
 #include "map_widget.h"
 #include "minimap.h"
 #include "model/clear_dialog.h"
 #include "model/game_state.h"
 #include "model/hex_geometry.h"
 #include "orders/command.h"
-#include "orders/order_state.h"
 #include "platform/platform.h"
 #include "qt_canvas.h"
 #include "qt_platform.h"
 #include "side_panel.h"
 #include "view/canvas.h"
-#include "view/keyboard.h"
-#include "view/menu_state.h"
 #include "view/panel.h"
-#include "view/selection.h"
 #include "view/sprite_table.h"
 
 namespace mf::app {
