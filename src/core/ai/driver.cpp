@@ -10,7 +10,7 @@
 #include "ai/fronts.h"
 #include "model/game_state.h"
 #include "model/rnd.h"
-#include "orders/order_state.h"
+#include "orders/order_buttons.h"
 #include "platform/platform.h"
 
 namespace mf {
