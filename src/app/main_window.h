@@ -22,6 +22,7 @@ class MapWidget;
 class Minimap;
 class SidePanel;
 class QtPlatform;
+class AnalysisPanel;
 
 // The order buttons of the map window, by the names scripts press them with,
 // with the short caption on the button and the tool tip the rules give it.
@@ -29,7 +30,10 @@ struct OrderButtonDef {
   const char* name;
   const char* caption;
   const char* toolTip;
+  const char* help;  // what the order does, for the button's tip
 };
+// The tip of an order button: its label, its key, and what it does.
+QString OrderButtonTip(const OrderButtonDef& def, const std::string& label);
 const std::vector<OrderButtonDef>& OrderButtonDefs();
 
 // The window asks before what cannot be undone; scripts and the game's own
@@ -107,7 +111,7 @@ class MainWindow : public QMainWindow {
   QWidget* orderBar_ = nullptr;
   QGridLayout* orderGrid_ = nullptr;
   int orderButtonsPerRow_ = 0;
-  QListWidget* aiLog_ = nullptr;
+  AnalysisPanel* aiLog_ = nullptr;
   QLabel* regimeLabel_ = nullptr;
   QLabel* turnLabel_ = nullptr;
   QLabel* ppLabel_ = nullptr;
