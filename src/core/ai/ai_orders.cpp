@@ -83,19 +83,24 @@ bool AIMoveUnitTo(int x, int y, int slot, int tx, int ty) {
   return true;
 }
 
-void AIFight(int tx, int ty) {
-  AIWatch(tx, ty);
-  UI.OrdX = tx;
-  UI.OrdY = ty;
-  UI.Order.AttackOrder = 1;
-  doAttack();
-  UI.Order.AttackOrder = 0;
+void AIClearOrders() {
+  UI.Order = OrderFlags{};
+  UI.OrdX = UI.OrdY = UI.OrdSlot = 0;
   for (int i = 0; i <= kAttackerCap; ++i) {
     UI.AttackerX[i] = 0;
     UI.AttackerY[i] = 0;
     UI.AttackerSlot[i] = 0;
   }
   UI.AttackerCount = 0;
+}
+
+void AIFight(int tx, int ty) {
+  AIWatch(tx, ty);
+  UI.OrdX = tx;
+  UI.OrdY = ty;
+  UI.Order.AttackOrder = 1;
+  doAttack();
+  AIClearOrders();
   AIShowChange(2);
 }
 

@@ -56,6 +56,10 @@ void AIFloodFrom(int x, int y, int slot);
 // hold its new place.
 bool AIMoveUnitTo(int x, int y, int slot, int tx, int ty);
 
+// The order registers at rest, as the computer leaves them after a stage:
+// no order flag, no origin, no attackers. The selection is left alone.
+void AIClearOrders();
+
 // One battle against (tx, ty) by the attackers listed in UI.AttackerX,
 // UI.AttackerY, UI.AttackerSlot (UI.AttackerCount of them), as the do button
 // of an attack fights it; the list is empty again afterwards.

@@ -69,7 +69,7 @@ void AIOperations() {
   AISupplyRatio();
   for (int f = 1; f <= AI.FrontCount && f <= kFrontCap; ++f) {
     // The player is quitting: the turn stops between two fronts.
-    if (AI.StopRequested) return;
+    if (AI.StopRequested) break;
     const double R = AI.SupplyRatio;
     const long stance = AI.FrontStance[f];
     AIClearWork(f);
@@ -103,11 +103,12 @@ void AIOperations() {
     AIHexValues(f, 20, kAIShqClass);
     AIMoveAll(f, kAIShqClass);
 
-    if (AISeaFront(f) && !AIShipping(f)) return;
+    if (AISeaFront(f) && !AIShipping(f)) break;
 
     AI.FrontBalance[f] = AI.FrontLineHexes[f] - AI.FrontLineUnits[f];
     AILog(AIAreaFrontLine(f));
   }
+  AIClearOrders();
 }
 
 }  // namespace mf

@@ -153,6 +153,7 @@ void AIUnitSplitMerge() {
     if (AI.FrontBalance[f] > 0 || AI.FrontStance[f] == 0) Split(f);
     if (AI.FrontBalance[f] < 0) Merge(f);
   }
+  AIClearOrders();
 }
 
 void AIMergeNaval() {
@@ -179,6 +180,7 @@ void AIMergeNaval() {
       }
     }
   }
+  AIClearOrders();
 }
 
 }  // namespace mf

@@ -163,6 +163,18 @@ Long ClassValue(int x, int y, int unitClass) {
   return static_cast<Long>(v);
 }
 
+// The field and its scratch planes to 0 on the whole map.
+void ClearField() {
+  for (int x = 1; x <= AIMapW(); ++x) {
+    for (int y = 1; y <= AIMapH(); ++y) {
+      HexRec& h = Hex[x][y];
+      h.Mark = 0;
+      h.ScratchRecon = 0;
+      h.Work = 0;
+    }
+  }
+}
+
 }  // namespace
 
 bool AINoLandBorder(int f) {
@@ -174,15 +186,9 @@ bool AINoLandBorder(int f) {
 
 bool AISeaFront(int f) { return AIValidFront(f) && AI.FrontEnemyArea[f] > 0 && AINoLandBorder(f); }
 
+
 void AIClearWork(int f) {
-  for (int x = 1; x <= AIMapW(); ++x) {
-    for (int y = 1; y <= AIMapH(); ++y) {
-      HexRec& h = Hex[x][y];
-      h.Mark = 0;
-      h.ScratchRecon = 0;
-      h.Work = 0;
-    }
-  }
+  ClearField();
   if (!AIValidFront(f)) return;
   AI.FrontLineHexes[f] = 0;
   AI.FrontLineUnits[f] = 0;
@@ -194,14 +200,7 @@ void AIHexValues(int f, double P, int unitClass) {
     AI.FrontLineHexes[g] = 0;
     AI.FrontLineUnits[g] = 0;
   }
-  for (int x = 1; x <= AIMapW(); ++x) {
-    for (int y = 1; y <= AIMapH(); ++y) {
-      HexRec& h = Hex[x][y];
-      h.Mark = 0;
-      h.ScratchRecon = 0;
-      h.Work = 0;
-    }
-  }
+  ClearField();
   if (!AIValidFront(f)) return;
   const long own = AI.FrontOwnArea[f];
   const long other = AI.FrontEnemyArea[f];
