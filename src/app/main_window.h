@@ -102,6 +102,8 @@ class MainWindow : public QMainWindow {
   int tickDepth_ = 0;  // ticks under way, nested while a tick's dialog waits
   bool syncing_ = false;
   bool quitting_ = false;
+  bool quitAfterTurn_ = false;  // the player quit during a computer turn
+  bool tickQueued_ = false;     // the next computer turn is already asked for
 };
 
 }  // namespace mf::app
