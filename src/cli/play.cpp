@@ -20,6 +20,7 @@
 #include "engine/new_turn_dialog.h"
 #include "files/scenario_file.h"
 #include "model/arith.h"
+#include "model/invariants.h"
 #include "model/reset.h"
 #include "model/rnd.h"
 #include "platform/scripted_platform.h"
@@ -79,13 +80,16 @@ std::string WinnerHeadline() {
 }  // namespace
 
 int PlayCommand(const Args& args, std::ostream& out, std::ostream& err) {
-  constexpr const char* kUsage = "usage: marrowfield-cli play FILE --turns N [--seed S] [-o OUT]\n";
+  constexpr const char* kUsage = "usage: marrowfield-cli play FILE --turns N [--seed S] [-o OUT] [--check]\n";
   std::string file, output;
   long turns = -1, seed = 1;
+  bool check = false;
   for (std::size_t i = 0; i < args.size(); ++i) {
     const std::string& a = args[i];
     const bool hasValue = i + 1 < args.size();
-    if (a == "--turns" || a == "--seed" || a == "-o") {
+    if (a == "--check") {
+      check = true;
+    } else if (a == "--turns" || a == "--seed" || a == "-o") {
       if (!hasValue) {
         err << "play: " << a << " needs a value\n";
         return 1;
@@ -150,6 +154,13 @@ int PlayCommand(const Args& args, std::ostream& out, std::ostream& err) {
     }
     // The record of what happened would only grow; nobody reads it here.
     platform.Clear();
+    if (check) {
+      const std::string broken = CheckInvariants();
+      if (!broken.empty()) {
+        err << "play: turn " << Game.Turn << ", regime " << Game.CurRegime << ": " << broken << "\n";
+        return 1;
+      }
+    }
     if (RoundComplete()) {
       out << RoundLine() << "\n";
       ++rounds;

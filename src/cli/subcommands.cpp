@@ -27,7 +27,7 @@ constexpr const char* kUsage =
     "  scramble FILE                scrambles a plain scenario file in place\n"
     "  unscramble FILE              makes a scrambled scenario file plain in place\n"
     "  run SCRIPT                   runs a script (see docs/cli.md)\n"
-    "  play FILE --turns N [--seed S] [-o OUT]\n"
+    "  play FILE --turns N [--seed S] [-o OUT] [--check]\n"
     "                               plays N rounds with the computer on every side\n"
     "  balance FILE --games N --turns T [--jobs J] [--csv OUT.csv]\n"
     "                               how each regime fares over N computer games\n"

@@ -49,7 +49,8 @@ expect_error() {
 expect_error "play: cannot read nowhere.mf1" "$cli" play nowhere.mf1 --turns 2
 expect_error "play: --turns wants a whole number from 1 to 100000, not \"x\"" "$cli" play "$scenario" --turns x
 expect_error "play: unknown option --fast" "$cli" play "$scenario" --turns 2 --fast
-expect_error "usage: marrowfield-cli play FILE --turns N [--seed S] [-o OUT]" "$cli" play "$scenario"
+expect_error "usage: marrowfield-cli play FILE --turns N [--seed S] [-o OUT] [--check]" "$cli" play "$scenario"
+"$cli" play "$scenario" --turns 3 --seed 2 --check > checked.txt || fail "--check failed on a sound game"
 expect_error "balance: cannot read nowhere.mf1" "$cli" balance nowhere.mf1 --games 2 --turns 2
 expect_error "balance: --jobs wants a whole number from 1 to 64, not \"0\"" \
   "$cli" balance "$scenario" --games 2 --turns 2 --jobs 0
