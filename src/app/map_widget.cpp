@@ -5,11 +5,11 @@
 #include <QPainter>
 #include <QPainterPath>
 
+#include "control/selection.h"
 #include "model/game_state.h"
 #include "model/hex_geometry.h"
 #include "model/reset.h"
 #include "view/draw_hex.h"
-#include "view/selection.h"
 
 namespace mf::app {
 namespace {

@@ -16,8 +16,9 @@
 #include <random>
 #include <sstream>
 
-#include "ai/computer_game.h"
-#include "engine/new_turn_dialog.h"
+#include "control/computer_game.h"
+#include "control/new_turn_dialog.h"
+#include "control/scenario_flow.h"
 #include "files/scenario_file.h"
 #include "model/arith.h"
 #include "model/invariants.h"

@@ -6,7 +6,7 @@
 #include <string>
 
 #include "ai/ai_state.h"
-#include "ai/computer_game.h"
+#include "control/computer_game.h"
 #include "app_fixture.h"
 #include "model/game_state.h"
 #include "support/core_test.h"

@@ -11,7 +11,7 @@
 #include "model/hex_geometry.h"
 #include "orders/command.h"
 #include "orders/new_units.h"
-#include "random/regime_shq.h"
+#include "orders/regime_shq.h"
 
 namespace mf {
 namespace {

@@ -9,8 +9,8 @@
 #include <ostream>
 #include <string>
 
-#include "ai/computer_game.h"
-#include "files/scenario_file.h"
+#include "control/computer_game.h"
+#include "control/scenario_flow.h"
 #include "model/invariants.h"
 #include "model/reset.h"
 #include "model/rnd.h"

@@ -1,8 +1,8 @@
-#include "ai/computer_game.h"
+#include "control/computer_game.h"
 
 #include <algorithm>
 
-#include "engine/turn_cycle.h"
+#include "control/turn_cycle.h"
 #include "model/arith.h"
 
 namespace mf {
