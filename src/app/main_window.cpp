@@ -560,12 +560,15 @@ void MainWindow::SyncWithGame() {
   map_->view()->update();
   syncing_ = false;
 
-  // A computer regime has finished its turn: the next turn starts at once
-  // instead of at the timer's next tick, so that a game of computer regimes
-  // goes round at the speed of the computer. Queued behind what is pending,
-  // so the window still paints and moves between two turns.
+  // A computer regime has finished its turn and hands on to another
+  // computer regime: that turn starts at once instead of at the timer's next
+  // tick, so that computer regimes follow each other at the computer's
+  // speed. Queued behind what is pending, so the window still paints and
+  // moves between two turns. A person's turn begins on the timer's tick.
+  const int next = Game.CurRegime >= Game.RegimeCount ? 1 : static_cast<int>(Game.CurRegime) + 1;
   const bool computerWaiting = Game.Turn > 0 && UI.EditMode != 1 && ValidRegime(Game.CurRegime) &&
-                               Regime[Game.CurRegime].AI > 0 && !UI.BusyPointer;
+                               Regime[Game.CurRegime].AI > 0 && !UI.BusyPointer && ValidRegime(next) &&
+                               Regime[next].AI > 0;
   if (computerWaiting && !tickQueued_ && !quitAfterTurn_) {
     tickQueued_ = true;
     QTimer::singleShot(0, this, [this] {
