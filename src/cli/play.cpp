@@ -41,6 +41,21 @@ bool Count(const std::string& text, long lo, long hi, long* n) {
   return *n >= lo && *n <= hi;
 }
 
+// A word of the command line that is no option's value: the file, the first
+// time. False, with the reason said, for an unknown option or a second file.
+bool FileWord(const char* cmd, const std::string& word, const char* usage, std::string* file, std::ostream& err) {
+  if (word.size() > 1 && word[0] == '-') {
+    err << cmd << ": unknown option " << word << "\n";
+    return false;
+  }
+  if (!file->empty()) {
+    err << usage;
+    return false;
+  }
+  *file = word;
+  return true;
+}
+
 // Loads a scenario or saved game as the menu's load does, from a copy, so
 // that the file the user named is never touched (a load scrambles the file
 // it reads).
@@ -105,13 +120,7 @@ int PlayCommand(const Args& args, std::ostream& out, std::ostream& err) {
         err << "play: --seed wants a whole number from 0 to 999999999, not \"" << v << "\"\n";
         return 1;
       }
-    } else if (a.size() > 1 && a[0] == '-') {
-      err << "play: unknown option " << a << "\n";
-      return 1;
-    } else if (file.empty()) {
-      file = a;
-    } else {
-      err << kUsage;
+    } else if (!FileWord("play", a, kUsage, &file, err)) {
       return 1;
     }
   }
@@ -303,13 +312,7 @@ int BalanceCommand(const Args& args, std::ostream& out, std::ostream& err) {
             << ", not \"" << v << "\"\n";
         return 1;
       }
-    } else if (a.size() > 1 && a[0] == '-') {
-      err << "balance: unknown option " << a << "\n";
-      return 1;
-    } else if (file.empty()) {
-      file = a;
-    } else {
-      err << kUsage;
+    } else if (!FileWord("balance", a, kUsage, &file, err)) {
       return 1;
     }
   }
