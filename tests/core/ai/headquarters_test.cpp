@@ -156,6 +156,7 @@ TEST_F(NewThq, TheBestScoredHexGetsATHQUnderTheShq) {
   EXPECT_EQ(Unit[thq].Front, front);
   EXPECT_EQ(Regime[us].PP, 20 - 3);
   EXPECT_EQ(AI.ShqNeedsLand[1], 0);
+  EXPECT_EQ(platform.AnalysisLines(), std::vector<std::string>{"New THQ placed  3, 4"});
 }
 
 TEST_F(NewThq, AnShqWithoutTransportDrawsTheTHQIntoItsOwnHex) {
@@ -172,6 +173,7 @@ TEST_F(NewThq, FifteenInfantryAreNotEnoughAndTheShqIsMarkedAsNeedingLandTroops) 
   EXPECT_EQ(Hex[2][4].Unit[1], 0);
   EXPECT_EQ(AI.ShqNeedsLand[1], 1);
   EXPECT_EQ(Regime[us].PP, 20);
+  EXPECT_TRUE(platform.AnalysisLines().empty());
 }
 
 TEST_F(NewThq, NothingWhenTheShqReachesTheHexOnlyOverTheSea) {

@@ -180,6 +180,7 @@ TEST_F(LogisticsTest, StockPiledBeyondTwiceATurnsOutputGoesToTheShqNearestTheCon
   EXPECT_EQ(Shq[us][2].StockQty[2], 30);
   // Far reaches no other SHQ and keeps its rifle.
   EXPECT_EQ(Shq[us][4].StockQty[1], 1);
+  EXPECT_EQ(platform.AnalysisLines(), (std::vector<std::string>{"SHQ Gate>SHQ Rook", "SHQ Lance>SHQ Rook"}));
 }
 
 }  // namespace

@@ -105,6 +105,12 @@ TEST_F(Production, BestTypeTakesTheGreatestFigureAndTheFirstOfEquals) {
   Type[fighter].Attr[kDogfight] = 3;
 
   AIBestType();
+  const std::vector<std::string>& log = platform.AnalysisLines();
+  ASSERT_EQ(log.size(), 12u);
+  EXPECT_EQ(log[0], "Theater= 0, Type= 1 = Rifles");
+  EXPECT_EQ(log[2], "Theater= 0, Type= 3 = Howitzer");
+  EXPECT_EQ(log[5], "Theater= 1, Type= 2 = ");
+  EXPECT_EQ(log[8], "Theater= 2, Type= 1 = Fighter");
   EXPECT_EQ(AI.BestType[0][1], first);
   EXPECT_EQ(AI.BestType[0][3], howitzer);  // 1020 against 500
   EXPECT_EQ(AI.BestType[2][1], fighter);
@@ -177,6 +183,13 @@ TEST_F(Wants, OneShqWithALandAndASeaFront) {
   EXPECT_EQ(AI.TypeShare[2][1], 22);   // 22.05
   EXPECT_EQ(AI.TypeShare[2][3], 24);
   EXPECT_EQ(Hex[2][2].Prod, 0);
+  // After the twelve best types, a line for each cell that is wanted.
+  const std::vector<std::string>& log = platform.AnalysisLines();
+  ASSERT_EQ(log.size(), 19u);
+  EXPECT_EQ(std::vector<std::string>(log.begin() + 12, log.end()),
+            (std::vector<std::string>{"Typ=Rifles, C=40%%", "Typ=Trucks, C=30%%", "Typ=Guns, C=24%%",
+                                      "Typ=Tanks, C=40%%", "Typ=Cargoships, C=816%%", "Typ=Fighters, C=22%%",
+                                      "Typ=Bombers, C=24%%"}));
 }
 
 TEST_F(Wants, FightersAreCappedAt200AndBombersAskForEscorts) {
@@ -252,6 +265,7 @@ TEST_F(Orders, ATownWellOnItsWayKeepsItsOrderAndTheDrawsPickTheRest) {
   EXPECT_EQ(Hex[2][1].Prod, rifles);
   EXPECT_EQ(Hex[2][4].Prod, 0);
   EXPECT_EQ(Hex[3][2].Prod, bombers);
+  EXPECT_EQ(platform.AnalysisLines().back(), "Birch, Prod = Bombers");
   EXPECT_EQ(AI.TypeShare[0][1], 0);
   EXPECT_EQ(AI.TypeShare[0][3], 90);
   EXPECT_EQ(AI.TypeShare[0][4], 454);
@@ -275,6 +289,7 @@ TEST_F(Orders, WithoutNeutralTownsALowSecondDrawMakesPoliticalPoints) {
   SeedRnd(10);
   AIProduction();
   EXPECT_EQ(Hex[3][2].Prod, 0);
+  EXPECT_EQ(platform.AnalysisLines().back(), "Birch, Prod = PP");
 }
 
 TEST_F(Orders, TheComputerBuildsOnlyWhileItHasMoreThanTenPoints) {
@@ -295,6 +310,8 @@ TEST_F(Orders, AnShqNeedingLandTroopsMakesItsNextTownBuildInfantry) {
   SeedRnd(3);
   AIProduction();
   EXPECT_EQ(Hex[3][2].Prod, rifles);
+  // The log tells the choice before the call for infantry overrode it.
+  EXPECT_EQ(platform.AnalysisLines().back(), "Birch, Prod = Bombers");
   EXPECT_EQ(AI.ShqNeedsLand[1], 0);
   // The infantry's share was 0 already; the bombers' stays.
   EXPECT_EQ(AI.TypeShare[2][3], 227);
