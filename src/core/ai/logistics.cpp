@@ -6,6 +6,7 @@
 #include "ai/analysis_log.h"
 #include "engine/supply_flood.h"
 #include "model/arith.h"
+#include "model/hex_geometry.h"
 #include "orders/transfer.h"
 
 namespace mf {
@@ -52,6 +53,14 @@ std::vector<ShqPlace> AIShqsOnMap(bool ownHexOnly) {
 }
 
 bool AIOwnTown(int x, int y) { return Hex[x][y].Pop > 0 && Hex[x][y].Owner == Game.CurRegime && Game.CurRegime > 0; }
+
+bool AISeaBeside(int x, int y) {
+  for (int d = 1; d <= kHexSides; ++d) {
+    const HexXY n = Neighbour(x, y, d);
+    if (n.x >= 1 && n.y >= 1 && Hex[n.x][n.y].Land == kSea) return true;
+  }
+  return false;
+}
 
 Long AIShqReach(int x, int y, int shq) {
   if (!ValidUnit(shq) || Unit[shq].Regime != Game.CurRegime || Unit[shq].Shq < 1 || Unit[shq].Shq > kShqCap)

@@ -24,6 +24,9 @@ std::vector<ShqPlace> AIShqsOnMap(bool ownHexOnly);
 // A town of Game.CurRegime: an owned hex with population.
 bool AIOwnTown(int x, int y);
 
+// A hex with sea among its six neighbours: a port, for a town.
+bool AISeaBeside(int x, int y);
+
 // The reach of SHQ unit `shq` at hex (x, y) as flooded at the turn start
 // (Hex.ShqDist under its number); 999 when the unit is no SHQ of the regime.
 Long AIShqReach(int x, int y, int shq);

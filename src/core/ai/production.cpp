@@ -30,14 +30,6 @@ void ClearWants() {
     }
 }
 
-bool SeaNeighbour(int x, int y) {
-  for (int d = 1; d <= kHexSides; ++d) {
-    const HexXY n = Neighbour(x, y, d);
-    if (n.x >= 1 && n.y >= 1 && Hex[n.x][n.y].Land == kSea) return true;
-  }
-  return false;
-}
-
 // What the transports of a ship can lift of land troops.
 Long SeaLift(int ship) { return AttrOf(Unit[ship].MobType, kCarryCap) * Unit[ship].MobQty; }
 
@@ -106,7 +98,7 @@ Long ChooseType(bool coastal) {
 // The town at (x, y) takes a new order from the shares of SHQ q.
 void NewOrder(int x, int y, int q, Long total) {
   HexRec& h = Hex[x][y];
-  const bool coastal = SeaNeighbour(x, y);
+  const bool coastal = AISeaBeside(x, y);
   Long type = ChooseType(coastal);
   if (type < 0) return;
   const Long people = h.People;

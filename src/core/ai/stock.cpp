@@ -264,14 +264,6 @@ void AIStockArm() {
 
 namespace {
 
-bool SeaNeighbour(int x, int y) {
-  for (int d = 1; d <= kHexSides; ++d) {
-    const HexXY n = Neighbour(x, y, d);
-    if (n.x >= 1 && n.y >= 1 && Hex[n.x][n.y].Land == kSea) return true;
-  }
-  return false;
-}
-
 // Founds or reinforces a formation of `theater` with the last stock slot of
 // each SHQ holding a type of that theater and class, in a town of the front
 // area chosen by `score` among the fronts within 5 land steps.
@@ -306,7 +298,7 @@ void BuildFromStock(int theater, int cls, Score score) {
     for (int x = 1; x <= Game.MapW && tx == 0; ++x)
       for (int y = 1; y <= Game.MapH && tx == 0; ++y) {
         if (!AIOwnTown(x, y) || Hex[x][y].Area != bestArea) continue;
-        if (theater == kSeaTheater && !SeaNeighbour(x, y)) continue;
+        if (theater == kSeaTheater && !AISeaBeside(x, y)) continue;
         int found = 0;
         for (int s = 1; s <= kStackSlots && found == 0; ++s) {
           const int u = Hex[x][y].Unit[s];
