@@ -2,8 +2,12 @@
 
 #include "ai/areas.h"
 #include "ai/fronts.h"
+#include "ai/headquarters.h"
+#include "ai/logistics.h"
 #include "ai/operations.h"
+#include "ai/production.h"
 #include "ai/reshape.h"
+#include "ai/stock.h"
 
 namespace mf {
 namespace {
@@ -24,6 +28,22 @@ const Stage kStages[] = {
     {"AIOperations", &AIOperations},
     {"AIUnitSplitMerge", &AIUnitSplitMerge},
     {"AIMergeNaval", &AIMergeNaval},
+    {"AIAreasToShq", &AIAreasToShq},
+    {"AIResearch", &AIResearch},
+    {"AITownsToShq", &AITownsToShq},
+    {"AIProduction", &AIProduction},
+    {"AINewShq", &AINewShq},
+    {"AINewThq", &AINewThq},
+    {"AIStockInf", &AIStockInf},
+    {"AIStockArt", &AIStockArt},
+    {"AIStockMob", &AIStockMob},
+    {"AIStockArm", &AIStockArm},
+    {"AIBuildNaval", &AIBuildNaval},
+    {"AIBuildAir", &AIBuildAir},
+    {"AIBuildAir2", &AIBuildAir2},
+    {"AIShqToShq", &AIShqToShq},
+    {"AINewLandUnits", &AINewLandUnits},
+    {"AIAssignBoss", &AIAssignBoss},
 };
 
 }  // namespace
