@@ -19,6 +19,7 @@
 #include "orders/order_state.h"
 #include "platform/paths.h"
 #include "platform/scripted_platform.h"
+#include "random/random_dialog.h"
 #include "script_tokenizer.h"
 #include "session.h"
 #include "view/keyboard.h"
@@ -206,6 +207,25 @@ bool Start(Run& run, const Words& a, std::string* why) {
   return true;
 }
 
+// The Random Scenario dialog with its fields set as given, then Start
+// Random Game; a made map is laid out and its first turn begins, as from the
+// File menu. With no settings nothing is queued, so that "on random" actions
+// (or the dialog's default, Start) are taken. A refused start fails the
+// script with the dialog's message.
+bool RandomGame(Run& run, const Words& a, std::string* why) {
+  std::vector<DialogAction> actions;
+  if (!RandomDialogActions(a, &actions, why)) {
+    *why = "random: " + *why;
+    return false;
+  }
+  if (!actions.empty()) {
+    actions.push_back({"start", ""});
+    run.platform.QueueDialog("random", std::move(actions));
+  }
+  dostartgame();
+  return true;
+}
+
 // The End Turn command answered Yes (in editing mode it refuses by itself).
 bool EndTurn(Run& run, const Words&, std::string*) {
   if (EndTurnAsks()) run.platform.QueueAnswerFirst("yes");
@@ -375,6 +395,10 @@ const Command kCommands[] = {
     {"start", 0, -1,
      "start [fog=0/1] [exploration=0/1] [pbem=0/1] [passwords=0/1] [aibonus=0/1] [ai=1,0,..] [email=a,b,..]",
      &Start},
+    {"random", 0, -1,
+     "random [size=N] [land=L] [regimes=R] [humans=1,0,..] [email=a,b,..] [seed=S] [realstart=0/1] [fog=0/1] "
+     "[exploration=0/1] [pbem=0/1] [passwords=0/1] [aibonus=0/1] [allied=0/1]",
+     &RandomGame},
     {"endturn", 0, 0, "endturn", &EndTurn},
     {"surrender", 0, 0, "surrender", &Surrender},
     {"click", 2, 3, "click X Y [right]", &Click},

@@ -289,17 +289,46 @@ bool RandomScenarioDialog::Act(const std::string& action, const std::string& val
   return false;
 }
 
+bool RandomDialogActions(const std::vector<std::string>& words, std::vector<DialogAction>* actions,
+                         std::string* why) {
+  static const char* const kKeys[] = {"size", "land", "regimes", "humans", "email", "seed", "realstart",
+                                      "fog", "exploration", "pbem", "passwords", "aibonus", "allied"};
+  std::vector<DialogAction> rest;
+  for (const auto& word : words) {
+    const auto eq = word.find('=');
+    const std::string key = eq == std::string::npos ? word : word.substr(0, eq);
+    bool known = false;
+    for (const char* k : kKeys) known = known || key == k;
+    if (!known || eq == std::string::npos) {
+      *why = "\"" + word +
+             "\" is not one of size=, land=, regimes=, humans=, email=, seed=, realstart=, fog=, exploration=, "
+             "pbem=, passwords=, aibonus=, allied=";
+      return false;
+    }
+    DialogAction action{key, word.substr(eq + 1)};
+    if (key == "regimes") {
+      actions->push_back(std::move(action));
+    } else {
+      rest.push_back(std::move(action));
+    }
+  }
+  for (auto& a : rest) actions->push_back(std::move(a));
+  return true;
+}
+
 // ---- Opening ------------------------------------------------------------------
 
 std::string RandomBasePath() { return (fs::path(ScenariosDir()) / kRandomBaseFile).string(); }
 
-bool MakeRandomScenario() {
+bool MakeRandomScenario(std::string* refusal) {
+  if (refusal) refusal->clear();
   const std::string base = RandomBasePath();
   std::error_code ec;
   if (!fs::is_regular_file(base, ec)) {
-    Plat().ShowMessage(std::string("A random game takes its rules from the scenario ") + kRandomBaseFile +
-                           ", which is not in the folder " + ScenariosDir() + ". Nothing was changed.",
-                       "Random Scenario");
+    const std::string message = std::string("A random game takes its rules from the scenario ") + kRandomBaseFile +
+                                ", which is not in the folder " + ScenariosDir() + ". Nothing was changed.";
+    Plat().ShowMessage(message, RandomScenarioDialog::kCaption);
+    if (refusal) *refusal = message;
     return false;
   }
   onlyclear();
@@ -313,6 +342,7 @@ bool MakeRandomScenario() {
   dialog.Prepare();
   Plat().RunDialog(dialog);
   if (!dialog.made) UI.EditMode = 1;
+  if (refusal && !dialog.made && dialog.refused) *refusal = dialog.refusal;
   return dialog.made;
 }
 

@@ -3,9 +3,11 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include "model/capacity.h"
 #include "platform/platform.h"
+#include "platform/scripted_platform.h"
 
 namespace mf {
 
@@ -113,6 +115,14 @@ class RandomScenarioDialog : public HumbleDialog {
   bool Refuse(const std::string& message, std::string* why);
 };
 
+// The dialog's settings of a script or command line as its actions:
+// "key=value" words with the keys size, land, regimes, humans, email, seed,
+// realstart, fog, exploration, pbem, passwords, aibonus, allied. The number
+// of regimes comes first, so that the rows it shows can be set; the others
+// keep their order. False, with a reason, for a word of another kind.
+bool RandomDialogActions(const std::vector<std::string>& words, std::vector<DialogAction>* actions,
+                         std::string* why);
+
 // The program's base scenario of random games.
 std::string RandomBasePath();
 
@@ -120,7 +130,10 @@ std::string RandomBasePath();
 // ten default regimes, and runs it. True when a map was made; the game then
 // stands at turn 0, not yet started. A missing base scenario is said in a
 // message naming the file and the folder, and the game is left as it was.
-bool MakeRandomScenario();
+// `refusal`, when given, receives the last message that kept the map from
+// being made (a refused Start Random Game, or the missing base), "" for a
+// plain cancel.
+bool MakeRandomScenario(std::string* refusal = nullptr);
 
 // The File menu's "Random Scenario": the dialog, and when a map was made the
 // window laid out for it and the first turn begun. Its result is whether a
