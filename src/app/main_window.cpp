@@ -23,6 +23,7 @@
 #include "orders/command.h"
 #include "orders/order_state.h"
 #include "platform/platform.h"
+#include "random/random_dialog.h"
 #include "qt_canvas.h"
 #include "qt_platform.h"
 #include "side_panel.h"
@@ -322,6 +323,7 @@ void MainWindow::BuildMenus() {
   QMenu* file = menuBar()->addMenu("&File");
   AddAction(file, "newScenario", "New Scenario...", [] { mf::NewScenarioCommand(); });
   AddAction(file, "clearMap", "Clear Map...", [] { mf::ClearMapCommand(); });
+  AddAction(file, "randomScenario", "Random Scenario...", [] { mf::dostartgame(); });
   file->addSeparator();
   AddAction(file, "load", "Load...", [] { mf::LoadCommand(); });
   AddAction(file, "save", "Save...", [] { mf::SaveCommand(); });
@@ -435,7 +437,7 @@ void MainWindow::ReloadPicturesIfNeeded() {
 void MainWindow::ApplyMenuState() {
   const mf::MenuState m = mf::GetMenuState();
   const std::pair<const char*, bool> enabled[] = {
-      {"newScenario", m.newScenario}, {"clearMap", m.clearMap}, {"load", m.load},
+      {"newScenario", m.newScenario}, {"clearMap", m.clearMap}, {"randomScenario", m.randomScenario}, {"load", m.load},
       {"save", m.save},               {"import", m.import},     {"scenario1", m.scenarios},
       {"scenario2", m.scenarios},     {"scenario3", m.scenarios}, {"scenario4", m.scenarios},
       {"quit", m.quit},               {"start", m.start},       {"endTurn", m.endTurn},

@@ -499,6 +499,17 @@ bool ImportFile(const std::string& path) {
   return true;
 }
 
+bool ImportRulesOf(const std::string& path) {
+  std::string bytes;
+  if (!ReadAllBytes(path, bytes)) return false;
+  if (FirstNumber(bytes) == 0) FlipTopBits(bytes);
+  ReadVisitor r(bytes, true);
+  WalkScenario(r);
+  RepairEngineVarsAfterLoad(r.version, true);
+  RecomputeCountersAndSprites();
+  return true;
+}
+
 std::string ScenarioFilter() {
   if (UI.HideEditor) return "Marrowfield (.mf1) files|*.mf1";
   return "Marrowfield (.mf1) files|*.mf1|Hidden Campaign Files|*.mf2";

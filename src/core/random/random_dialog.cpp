@@ -1,6 +1,7 @@
 #include "random/random_dialog.h"
 
 #include <filesystem>
+#include <fstream>
 
 #include "engine/turn_cycle.h"
 #include "files/scenario_file.h"
@@ -320,11 +321,11 @@ bool RandomDialogActions(const std::vector<std::string>& words, std::vector<Dial
 
 std::string RandomBasePath() { return (fs::path(ScenariosDir()) / kRandomBaseFile).string(); }
 
-bool MakeRandomScenario(std::string* refusal) {
+bool PrepareRandomGame(std::string* refusal) {
   if (refusal) refusal->clear();
   const std::string base = RandomBasePath();
   std::error_code ec;
-  if (!fs::is_regular_file(base, ec)) {
+  if (!fs::is_regular_file(base, ec) || !std::ifstream(base, std::ios::binary)) {
     const std::string message = std::string("A random game takes its rules from the scenario ") + kRandomBaseFile +
                                 ", which is not in the folder " + ScenariosDir() + ". Nothing was changed.";
     Plat().ShowMessage(message, RandomScenarioDialog::kCaption);
@@ -333,11 +334,17 @@ bool MakeRandomScenario(std::string* refusal) {
   }
   onlyclear();
   // Only the rule set of the base scenario is taken: rules, unit types,
-  // research and peoples; its map, regimes and units are not.
-  ImportFile(base);
+  // research and peoples; its map, regimes and units are not. The shipped
+  // file is only read, never rewritten.
+  ImportRulesOf(base);
   dotempregs();
   GivePortraitSets();
   UI.EditMode = 1;
+  return true;
+}
+
+bool MakeRandomScenario(std::string* refusal) {
+  if (!PrepareRandomGame(refusal)) return false;
   RandomScenarioDialog dialog;
   dialog.Prepare();
   Plat().RunDialog(dialog);

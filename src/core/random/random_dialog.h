@@ -126,6 +126,12 @@ bool RandomDialogActions(const std::vector<std::string>& words, std::vector<Dial
 // The program's base scenario of random games.
 std::string RandomBasePath();
 
+// What opening the dialog does before it shows: the game cleared, the base
+// scenario's rule set taken, the ten default regimes, each with a portrait
+// set. A missing or unreadable base is said in a message naming the file
+// and the folder (also into `refusal`), nothing is changed, and false comes back.
+bool PrepareRandomGame(std::string* refusal = nullptr);
+
 // Opens the dialog on a cleared game with the base scenario's rules and the
 // ten default regimes, and runs it. True when a map was made; the game then
 // stands at turn 0, not yet started. A missing base scenario is said in a
