@@ -17,6 +17,8 @@
 #include "files/scenario_file.h"
 #include "map_widget.h"
 #include "minimap.h"
+#include "paint_panel.h"
+#include "editor/map_paint.h"
 #include "model/clear_dialog.h"
 #include "model/game_state.h"
 #include "model/hex_geometry.h"
@@ -142,6 +144,8 @@ MainWindow::MainWindow(QtPlatform* platform) : platform_(platform) {
   if (platform_) platform_->SetParentWindow(this);
 
   connect(map_, &MapWidget::Acted, this, [this] { SyncWithGame(); });
+  connect(map_, &MapWidget::HexDragged, this, [this](int x, int y) { Act([x, y] { mf::PaintDragTo(x, y); }); });
+  connect(map_, &MapWidget::ButtonReleased, this, [this] { Act([] { mf::EndPaintStroke(); }); });
   connect(map_, &MapWidget::HexPressed, this,
           [this](int x, int y, int button) { Act([x, y, button] { mf::ClickMap(x, y, button); }); });
   connect(minimap_, &Minimap::Acted, this, [this] { SyncWithGame(); });
@@ -268,6 +272,8 @@ QWidget* MainWindow::BuildCentre() {
   minimap_ = new Minimap(rightColumn_);
   minimap_->setFixedHeight(190);
   right->addWidget(minimap_);
+  paintPanel_ = new PaintPanel(rightColumn_, this, [this](std::function<void()> c) { Act(c); });
+  right->addWidget(paintPanel_);
   panel_ = new SidePanel(rightColumn_);
   auto* scroll = new QScrollArea(rightColumn_);
   scroll->setObjectName("panelScroll");
@@ -492,6 +498,7 @@ void MainWindow::SyncWithGame() {
   orderBar_->setVisible(UI.MapControlsShown);
   aiLog_->setVisible(UI.AILogShown);
   ApplyButtons();
+  paintPanel_->Sync();
   buttons_["nextturn"]->setVisible(UI.MapControlsShown);
   if (platform_) platform_->SetBusy(UI.BusyPointer);
   ApplyMenuState();

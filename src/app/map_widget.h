@@ -5,6 +5,7 @@
 #include <QScrollBar>
 #include <QWidget>
 
+#include "model/hex_geometry.h"
 #include "qt_canvas.h"
 
 namespace mf::app {
@@ -37,11 +38,20 @@ class MapWidget : public QWidget {
   // A press of a mouse button on hex (x, y) (zeros off the map), with the
   // game's button number; the window runs it as a command of the player.
   void HexPressed(int x, int y, int button);
+  // With a paint brush on: the pointer dragged onto another hex with the
+  // left button held, and the button let go.
+  void HexDragged(int x, int y);
+  void ButtonReleased();
 
  private:
   friend class MapView;
   void ViewResized();
   void Pressed(QPoint pos, Qt::MouseButton button);
+  // The pointer moved (buttons held as given) or left the map.
+  void Moved(QPoint pos, Qt::MouseButtons buttons);
+  void Released(Qt::MouseButton button);
+  // The hex under the pointer, zeros when none.
+  HexXY HexAt(QPoint pos) const;
   void ScrollMoved(Qt::Orientation o, int value, bool dragging);
   void ScrollReleased();
 
@@ -57,6 +67,10 @@ class MapWidget : public QWidget {
   bool syncing_ = false;
   bool syncQueued_ = false;
   bool interactive_ = true;
+  // The hex under the pointer, where the brush is shown, and the hex the
+  // last drag reached.
+  HexXY hover_;
+  HexXY dragged_;
 };
 
 // The picture itself.
@@ -69,9 +83,13 @@ class MapView : public QWidget {
   void paintEvent(QPaintEvent*) override;
   void resizeEvent(QResizeEvent*) override;
   void mousePressEvent(QMouseEvent*) override;
+  void mouseMoveEvent(QMouseEvent*) override;
+  void mouseReleaseEvent(QMouseEvent*) override;
+  void leaveEvent(QEvent*) override;
 
  private:
   MapWidget* owner_;
+  QPoint lastPos_;
 };
 
 }  // namespace mf::app
