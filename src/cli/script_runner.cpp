@@ -97,13 +97,21 @@ bool Seed(Run&, const Words& a, std::string* why) {
   return true;
 }
 
-bool NewScenario(Run&, const Words& a, std::string*) {
+bool NewScenario(Run&, const Words& a, std::string* why) {
+  if (!MapSizeWords(a[0], a[1], why)) {
+    *why = "new: " + *why;
+    return false;
+  }
   MakeItSo(true, a[0], a[1]);
   AfterClearCommand(true);
   return true;
 }
 
-bool ClearMap(Run&, const Words& a, std::string*) {
+bool ClearMap(Run&, const Words& a, std::string* why) {
+  if (!MapSizeWords(a[0], a[1], why)) {
+    *why = "clearmap: " + *why;
+    return false;
+  }
   MakeItSo(false, a[0], a[1]);
   AfterClearCommand(false);
   return true;
@@ -363,6 +371,8 @@ bool Rename(Run&, const Words&, std::string*) {
 // missing). A folder without pictures of its own borrows those of the
 // program folder it replaces, so that officers still find their portraits.
 bool ProgramDirCommand(Run& run, const Words& a, std::string* why) {
+  // An empty name is a cancelled folder choice: the program folder stays.
+  if (a[0].empty()) return true;
   const fs::path dir = fs::path(run.Path(a[0])).lexically_normal();
   std::error_code ec;
   fs::create_directories(dir / "scenarios", ec);
@@ -574,9 +584,9 @@ int RunScriptText(const std::string& text, const std::string& name, const std::s
 }
 
 int RunScriptFile(const std::string& path, std::ostream& out, std::ostream& err) {
-  std::string text;
-  if (!ReadBytes(path, &text)) {
-    err << "cannot read script " << path << "\n";
+  std::string text, why;
+  if (!ReadBytes(path, &text, &why)) {
+    err << "cannot read script " << path << ": " << why << "\n";
     return 1;
   }
   const fs::path p(path);

@@ -50,7 +50,7 @@ void Commission(int u, int slot, int kind) {
   Hex[UI.SelX][UI.SelY].Unit[slot] = u;
   MakeOfficer(u);
   Counter(u);
-  if (!Editing()) Regime[Unit[u].Regime].PP -= static_cast<Long>(CostOf(kind));
+  if (!Editing()) Regime[Unit[u].Regime].PP = AddSat(Regime[Unit[u].Regime].PP, -static_cast<std::int64_t>(CostOf(kind)));
   UI.SelCount = StackCount(static_cast<int>(UI.SelX), static_cast<int>(UI.SelY));
   UI.SelSlot = slot;
   UI.PanelDirty = true;

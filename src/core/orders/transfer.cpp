@@ -329,7 +329,7 @@ void TransferDialog::CarryOut() {
       // A pool with every slot taken by other types cannot take these.
       if (slot == 0) continue;
       into->StockType[slot] = row.type;
-      into->StockQty[slot] += row.chosen;
+      into->StockQty[slot] = AddSat(into->StockQty[slot], row.chosen);
       moved[c] = true;
     }
   } else {
