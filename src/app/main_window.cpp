@@ -13,8 +13,12 @@
 #include <QScrollArea>
 #include <QVBoxLayout>
 
-#include "engine/turn_cycle.h"
-#include "files/scenario_file.h"
+#include "control/keyboard.h"
+#include "control/menu_state.h"
+#include "control/order_state.h"
+#include "control/scenario_flow.h"
+#include "control/selection.h"
+#include "control/turn_cycle.h"
 #include "map_widget.h"
 #include "minimap.h"
 #include "paint_panel.h"
@@ -23,17 +27,14 @@
 #include "model/game_state.h"
 #include "model/hex_geometry.h"
 #include "orders/command.h"
-#include "orders/order_state.h"
 #include "platform/platform.h"
+#include "control/random_flow.h"
 #include "random/random_dialog.h"
 #include "qt_canvas.h"
 #include "qt_platform.h"
 #include "side_panel.h"
 #include "view/canvas.h"
-#include "view/keyboard.h"
-#include "view/menu_state.h"
 #include "view/panel.h"
-#include "view/selection.h"
 #include "view/sprite_table.h"
 
 namespace mf::app {
@@ -161,7 +162,11 @@ MainWindow::MainWindow(QtPlatform* platform) : platform_(platform) {
   }
 
   connect(map_, &MapWidget::Acted, this, [this] { SyncWithGame(); });
-  connect(map_, &MapWidget::HexDragged, this, [this](int x, int y) { Act([x, y] { mf::PaintDragTo(x, y); }); });
+  connect(map_, &MapWidget::HexDragged, this, [this](int x, int y) { Act([x, y] {
+    if (!mf::PaintStrokeOpen()) return;
+    mf::SelectHex(x, y);
+    mf::PaintDragTo(x, y);
+  }); });
   connect(map_, &MapWidget::ButtonReleased, this, [this] { Act([] { mf::EndPaintStroke(); }); });
   connect(map_, &MapWidget::HexPressed, this,
           [this](int x, int y, int button) { Act([x, y, button] { mf::ClickMap(x, y, button); }); });

@@ -7,11 +7,11 @@
 #include <QPainter>
 #include <QPainterPath>
 
+#include "control/selection.h"
 #include "model/game_state.h"
 #include "model/hex_geometry.h"
 #include "model/reset.h"
 #include "view/draw_hex.h"
-#include "view/selection.h"
 #include "editor/map_paint.h"
 
 namespace mf::app {

@@ -8,24 +8,25 @@
 #include <vector>
 
 #include "combat/battle_window.h"
+#include "control/keyboard.h"
+#include "control/order_state.h"
+#include "control/scenario_flow.h"
+#include "control/selection.h"
+#include "control/turn_cycle.h"
 #include "editor/map_paint.h"
 #include "engine/show_supply.h"
-#include "engine/turn_cycle.h"
 #include "files/field_registry.h"
-#include "files/scenario_file.h"
 #include "model/arith.h"
 #include "model/game_state.h"
 #include "model/reset.h"
 #include "model/rnd.h"
 #include "orders/command.h"
-#include "orders/order_state.h"
 #include "platform/paths.h"
 #include "platform/scripted_platform.h"
+#include "control/random_flow.h"
 #include "random/random_dialog.h"
 #include "script_tokenizer.h"
 #include "session.h"
-#include "view/keyboard.h"
-#include "view/selection.h"
 
 namespace fs = std::filesystem;
 
@@ -441,7 +442,10 @@ bool Paint(Run&, const Words& a, std::string* why) {
       *why = "paint drag: \"" + a[1] + " " + a[2] + "\" is not a hex (two whole numbers)";
       return false;
     }
-    PaintDragTo(static_cast<int>(x), static_cast<int>(y));
+    if (PaintStrokeOpen() && ValidHex(static_cast<int>(x), static_cast<int>(y))) {
+      SelectHex(static_cast<int>(x), static_cast<int>(y));
+      PaintDragTo(static_cast<int>(x), static_cast<int>(y));
+    }
     return true;
   }
   if (what == "release") {

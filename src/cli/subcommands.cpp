@@ -9,6 +9,7 @@
 #include "files/scenario_schema.h"
 #include "model/reset.h"
 #include "platform/scripted_platform.h"
+#include "control/random_flow.h"
 #include "random/random_dialog.h"
 #include "script_runner.h"
 #include "session.h"

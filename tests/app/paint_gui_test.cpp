@@ -14,7 +14,6 @@
 #include "model/game_state.h"
 #include "model/reset.h"
 #include "support/core_test.h"
-#include "view/menu_state.h"
 
 namespace mf::app::test {
 namespace {

@@ -16,6 +16,7 @@
 #include "model/game_state.h"
 #include "model/invariants.h"
 #include "dialog_views.h"
+#include "control/random_flow.h"
 #include "random/random_dialog.h"
 
 namespace mf::app::test {

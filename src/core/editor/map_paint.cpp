@@ -8,9 +8,8 @@
 #include "model/capacity.h"
 #include "model/game_state.h"
 #include "model/hex_geometry.h"
-#include "orders/order_state.h"
+#include "orders/order_buttons.h"
 #include "platform/platform.h"
-#include "view/selection.h"
 
 namespace mf {
 
@@ -327,11 +326,14 @@ void PaintDragTo(int x, int y) {
   if (!History().open || !ValidHex(x, y)) return;
   if (UI.Order.RegimePaint == 0 && UI.Order.LandscapePaint == 0) return;
   if (InStroke(x, y)) return;
-  SelectHex(x, y);
   PaintAt(x, y);
 }
 
 void EndPaintStroke() { CloseStroke(); }
+
+bool PaintStrokeOpen() {
+  return History().open && (UI.Order.RegimePaint > 0 || UI.Order.LandscapePaint > 0);
+}
 
 bool UndoPaint() {
   CloseStroke();

@@ -54,10 +54,13 @@ void SelectPaintRow(int row);
 void RegimePaintButton();
 void LandscapePaintButton();
 // The pointer dragged onto hex (x, y) with the button held: the stroke
-// paints it, once per stroke.
+// paints it, once per stroke. The map selects the hex first, as a press
+// does, so that the redraw around the selection shows it.
 void PaintDragTo(int x, int y);
 // The button let go: the stroke is finished.
 void EndPaintStroke();
+// Whether a stroke is under way (a brush is on and the button is held).
+bool PaintStrokeOpen();
 
 // Ctrl+Z and Ctrl+Y: the last stroke (a click, a drag or a town's
 // questions) undone or done again. False when there is nothing to undo/redo.

@@ -1,13 +1,9 @@
 #include "random/random_dialog.h"
 
 #include <filesystem>
-#include <fstream>
 
-#include "engine/turn_cycle.h"
-#include "files/scenario_file.h"
 #include "model/arith.h"
 #include "model/game_state.h"
-#include "model/reset.h"
 #include "model/rnd.h"
 #include "platform/dialog_values.h"
 #include "platform/paths.h"
@@ -39,6 +35,8 @@ const TempRegime kTempRegimes[kRandomRows + 1] = {
     {"Dritte Reich", 13, "16777215", 1},
 };
 
+}  // namespace
+
 // Every regime needs a portrait set for its officers' faces: the set of its
 // people's number when the pictures have one, else the first set there is.
 void GivePortraitSets() {
@@ -55,8 +53,6 @@ void GivePortraitSets() {
     Regime[r].PortraitSet = people >= 1 && people <= kPortraitCap && present[people] ? people : firstSet;
   }
 }
-
-}  // namespace
 
 void dotempregs() {
   Game.RegimeCount = kRandomRows;
@@ -317,47 +313,6 @@ bool RandomDialogActions(const std::vector<std::string>& words, std::vector<Dial
   return true;
 }
 
-// ---- Opening ------------------------------------------------------------------
-
 std::string RandomBasePath() { return (fs::path(ScenariosDir()) / kRandomBaseFile).string(); }
-
-bool PrepareRandomGame(std::string* refusal) {
-  if (refusal) refusal->clear();
-  const std::string base = RandomBasePath();
-  std::error_code ec;
-  if (!fs::is_regular_file(base, ec) || !std::ifstream(base, std::ios::binary)) {
-    const std::string message = std::string("A random game takes its rules from the scenario ") + kRandomBaseFile +
-                                ", which is not in the folder " + ScenariosDir() + ". Nothing was changed.";
-    Plat().ShowMessage(message, RandomScenarioDialog::kCaption);
-    if (refusal) *refusal = message;
-    return false;
-  }
-  onlyclear();
-  // Only the rule set of the base scenario is taken: rules, unit types,
-  // research and peoples; its map, regimes and units are not. The shipped
-  // file is only read, never rewritten.
-  ImportRulesOf(base);
-  dotempregs();
-  GivePortraitSets();
-  UI.EditMode = 1;
-  return true;
-}
-
-bool MakeRandomScenario(std::string* refusal) {
-  if (!PrepareRandomGame(refusal)) return false;
-  RandomScenarioDialog dialog;
-  dialog.Prepare();
-  Plat().RunDialog(dialog);
-  if (!dialog.made) UI.EditMode = 1;
-  if (refusal && !dialog.made && dialog.refused) *refusal = dialog.refusal;
-  return dialog.made;
-}
-
-bool dostartgame() {
-  const bool made = MakeRandomScenario();
-  setup();
-  if (made) BeginFirstTurn();
-  return made;
-}
 
 }  // namespace mf

@@ -126,24 +126,9 @@ bool RandomDialogActions(const std::vector<std::string>& words, std::vector<Dial
 // The program's base scenario of random games.
 std::string RandomBasePath();
 
-// What opening the dialog does before it shows: the game cleared, the base
-// scenario's rule set taken, the ten default regimes, each with a portrait
-// set. A missing or unreadable base is said in a message naming the file
-// and the folder (also into `refusal`), nothing is changed, and false comes back.
-bool PrepareRandomGame(std::string* refusal = nullptr);
-
-// Opens the dialog on a cleared game with the base scenario's rules and the
-// ten default regimes, and runs it. True when a map was made; the game then
-// stands at turn 0, not yet started. A missing base scenario is said in a
-// message naming the file and the folder, and the game is left as it was.
-// `refusal`, when given, receives the last message that kept the map from
-// being made (a refused Start Random Game, or the missing base), "" for a
-// plain cancel.
-bool MakeRandomScenario(std::string* refusal = nullptr);
-
-// The File menu's "Random Scenario": the dialog, and when a map was made the
-// window laid out for it and the first turn begun. Its result is whether a
-// game was made.
-bool dostartgame();
+// Every regime of the ten gets a portrait set for its officers' faces: the
+// set of its people's number when the pictures have one, else the first set
+// the pictures have.
+void GivePortraitSets();
 
 }  // namespace mf

@@ -2,12 +2,12 @@
 
 #include "model/arith.h"
 #include "model/capacity.h"
+#include "model/counter_pic.h"
 #include "model/game_state.h"
 #include "model/hex_geometry.h"
 #include "model/rnd.h"
 #include "orders/new_units.h"
 #include "random/regime_shq.h"
-#include "view/counter.h"
 
 namespace mf {
 namespace {

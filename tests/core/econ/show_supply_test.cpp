@@ -2,12 +2,12 @@
 // strict range test and its stale flood origin, and the figures on the map.
 #include "engine/show_supply.h"
 
+#include "control/menu_state.h"
 #include "core/view/recording_canvas.h"
 #include "econ_test_util.h"
 #include "model/reset.h"
 #include "view/canvas.h"
 #include "view/draw_hex.h"
-#include "view/menu_state.h"
 
 namespace mf::test {
 namespace {

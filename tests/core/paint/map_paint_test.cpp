@@ -4,9 +4,9 @@
 #include "editor/map_paint.h"
 
 #include "model/game_state.h"
-#include "orders/order_state.h"
+#include "control/order_state.h"
 #include "support/core_test.h"
-#include "view/selection.h"
+#include "control/selection.h"
 
 namespace mf::test {
 namespace {

@@ -6,6 +6,7 @@
 
 #include "core/content/content_test_util.h"
 #include "model/game_state.h"
+#include "control/random_flow.h"
 #include "random/random_dialog.h"
 #include "support/core_test.h"
 
