@@ -1,4 +1,5 @@
 #include "main_window.h"
+
 #include "view_text.h"
 
 #include <QActionGroup>
@@ -13,6 +14,7 @@
 #include <QScrollArea>
 #include <QVBoxLayout>
 
+#include "ai/ai_state.h"
 #include "control/keyboard.h"
 #include "control/menu_state.h"
 #include "control/order_state.h"
@@ -509,6 +511,15 @@ MainWindow::GameFace MainWindow::CurrentFace() {
 
 void MainWindow::SyncWithGame() {
   if (syncing_ || quitting_) return;
+  // The player quit while the computer was at work: its turn has stopped
+  // after the stage it was in, and now the program ends.
+  if (quitAfterTurn_ && !UI.BusyPointer && tickDepth_ == 0) {
+    quitAfterTurn_ = false;
+    AI.StopRequested = false;
+    QuitNow();
+    close();
+    return;
+  }
   syncing_ = true;
   ReloadPicturesIfNeeded();
   if (quitting_) {
@@ -562,6 +573,23 @@ void MainWindow::SyncWithGame() {
   ApplyMenuState();
   map_->view()->update();
   syncing_ = false;
+
+  // A computer regime has finished its turn and hands on to another
+  // computer regime: that turn starts at once instead of at the timer's next
+  // tick, so that computer regimes follow each other at the computer's
+  // speed. Queued behind what is pending, so the window still paints and
+  // moves between two turns. A person's turn begins on the timer's tick.
+  const int next = Game.CurRegime >= Game.RegimeCount ? 1 : static_cast<int>(Game.CurRegime) + 1;
+  const bool computerWaiting = Game.Turn > 0 && UI.EditMode != 1 && ValidRegime(Game.CurRegime) &&
+                               Regime[Game.CurRegime].AI > 0 && !UI.BusyPointer && ValidRegime(next) &&
+                               Regime[next].AI > 0;
+  if (computerWaiting && !tickQueued_ && !quitAfterTurn_) {
+    tickQueued_ = true;
+    QTimer::singleShot(0, this, [this] {
+      tickQueued_ = false;
+      Tick();
+    });
+  }
 }
 
 void MainWindow::ApplyButtons() {
@@ -627,7 +655,21 @@ void MainWindow::closeEvent(QCloseEvent* e) {
     e->accept();
     return;
   }
+  // Asked while the computer plays (its stages yield to the window), the
+  // question answered Yes stops the computer after its current stage; the
+  // program then ends when the driver has returned.
+  const bool computerAtWork = UI.BusyPointer || tickDepth_ > 0;
+  if (quitAfterTurn_) {
+    e->ignore();
+    return;
+  }
   if (mf::Plat().AskYesNo("Are you sure you want to quit?", "")) {
+    if (computerAtWork) {
+      quitAfterTurn_ = true;
+      AI.StopRequested = true;
+      e->ignore();
+      return;
+    }
     quitting_ = true;
     timer_.stop();
     e->accept();

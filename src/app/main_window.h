@@ -124,6 +124,8 @@ class MainWindow : public QMainWindow {
   bool syncing_ = false;
   GameFace lastFace_{};
   bool quitting_ = false;
+  bool quitAfterTurn_ = false;  // the player quit during a computer turn
+  bool tickQueued_ = false;     // the next computer turn is already asked for
 };
 
 }  // namespace mf::app

@@ -20,6 +20,10 @@ class MapWidget : public QWidget {
   // 1 or 2: every picture unit shows as zoom x zoom pixels.
   void SetZoom(int zoom);
   int Zoom() const { return zoom_; }
+  // The density the map is drawn at: the zoom times the screen's pixel
+  // ratio (rounded up), so that a 2x zoom or a dense screen gets pictures
+  // drawn at that size rather than enlarged ones.
+  int DrawScale() const;
   // Puts the bars in line with the UI scroll fields and the picture with the
   // size of the view; called by the window whenever it syncs.
   void SyncFromGame();
@@ -42,6 +46,8 @@ class MapWidget : public QWidget {
   // left button held, and the button let go.
   void HexDragged(int x, int y);
   void ButtonReleased();
+  // Ctrl and the mouse wheel changed the zoom.
+  void ZoomChanged(int zoom);
 
  private:
   friend class MapView;
@@ -54,6 +60,10 @@ class MapWidget : public QWidget {
   HexXY HexAt(QPoint pos) const;
   void ScrollMoved(Qt::Orientation o, int value, bool dragging);
   void ScrollReleased();
+  // The wheel scrolls (with Shift or a sideways wheel across), with Ctrl zooms.
+  void Wheel(QWheelEvent* e);
+  // Scrolls by (dx, dy) picture units within the ranges; true when it moved.
+  bool ScrollBy(int dx, int dy);
 
   MapView* view_ = nullptr;
   QScrollBar* hbar_ = nullptr;
@@ -71,6 +81,7 @@ class MapWidget : public QWidget {
   // last drag reached.
   HexXY hover_;
   HexXY dragged_;
+  int wheelRest_ = 0;  // eighths of a degree not yet turned into a step
 };
 
 // The picture itself.
@@ -86,8 +97,11 @@ class MapView : public QWidget {
   void mouseMoveEvent(QMouseEvent*) override;
   void mouseReleaseEvent(QMouseEvent*) override;
   void leaveEvent(QEvent*) override;
+  void wheelEvent(QWheelEvent*) override;
 
  private:
+  // The edge of the hexes within reach of the order under way.
+  void DrawReachOutline(QPainter& p);
   MapWidget* owner_;
   QPoint lastPos_;
 };

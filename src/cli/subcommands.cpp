@@ -8,6 +8,7 @@
 #include "files/scenario_file.h"
 #include "files/scenario_schema.h"
 #include "model/reset.h"
+#include "play.h"
 #include "platform/scripted_platform.h"
 #include "control/random_flow.h"
 #include "random/random_dialog.h"
@@ -28,7 +29,10 @@ constexpr const char* kUsage =
     "  scramble FILE                scrambles a plain scenario file in place\n"
     "  unscramble FILE              makes a scrambled scenario file plain in place\n"
     "  run SCRIPT                   runs a script (see docs/cli.md)\n"
-    "  play FILE --turns N [--seed S] [-o OUT]\n"
+    "  play FILE --turns N [--seed S] [-o OUT] [--check]\n"
+    "                               plays N rounds with the computer on every side\n"
+    "  balance FILE --games N --turns T [--jobs J] [--csv OUT.csv]\n"
+    "                               how each regime fares over N computer games\n"
     "  random [--size N] [--land L] [--regimes R] [--humans 1,0,..] [--email a,b,..] [--seed S]\n"
     "         [--real-start] [--fog 0/1] [--exploration 0/1] [--pbem 0/1] [--passwords 0/1]\n"
     "         [--aibonus] [--allied] -o FILE   a random scenario, saved before its first turn\n"
@@ -245,11 +249,6 @@ int RunCommand(const Args& args, std::ostream& out, std::ostream& err) {
   return RunScriptFile(args[0], out, err);
 }
 
-int PlayCommand(const Args&, std::ostream&, std::ostream& err) {
-  err << "not available yet: play\n";
-  return 1;
-}
-
 int RandomCommand(const Args& args, std::ostream& out, std::ostream& err) {
   // Options with a value, as the dialog's keys; the three switches need none.
   static const std::pair<const char*, const char*> kValued[] = {
@@ -333,6 +332,7 @@ int CliMain(const Args& argv, std::ostream& out, std::ostream& err) {
   if (cmd == "unscramble") return ScrambleCommand(args, false, out, err);
   if (cmd == "run") return RunCommand(args, out, err);
   if (cmd == "play") return PlayCommand(args, out, err);
+  if (cmd == "balance") return BalanceCommand(args, out, err);
   if (cmd == "random") return RandomCommand(args, out, err);
   if (cmd == "compile") return CompileCommand(args, out, err);
   if (cmd == "help" || cmd == "--help" || cmd == "-h") {

@@ -112,9 +112,6 @@ if "$cli" scramble scenario.mf1 2> err.txt; then fail "scramble of a scrambled f
 [ "$(cat err.txt)" = "scramble: scenario.mf1 is already scrambled" ] || fail "wrong refusal: $(cat err.txt)"
 
 # Parts of the game that are not built yet say so.
-if "$cli" play scenario.mf1 --turns 2 2> err.txt; then fail "play succeeded"; fi
-[ "$(cat err.txt)" = "not available yet: play" ] || fail "wrong play message: $(cat err.txt)"
-
 # A random scenario: the same seed twice gives the same bytes, another seed
 # other bytes, and a refusal of the dialog is its message and exit code 1.
 "$cli" random --seed 5 --size 30 --land 50 --regimes 3 -o r1.mf1 > out.txt || fail "random failed"

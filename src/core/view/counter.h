@@ -43,8 +43,10 @@ bool SeesUnitFully(int u);
 void DrawCounterFigures(Canvas& canvas, int u, int left, int top);
 
 // Where the figures stand on the 43 x 41 counter.
+// The figures stand in the band of the counter's card under its symbol box
+// (art.md has the layout), so that they read against the counter's own colour.
 constexpr int kFigureFontSize = 6;
-constexpr int kAttackTextX = 5, kDefenceTextX = 24, kFigureTextY = 27;
+constexpr int kAttackTextX = 8, kDefenceTextX = 24, kFigureTextY = 21;
 constexpr int kArtilleryTextX = 15, kArtilleryTextY = 2;
 
 }  // namespace mf
