@@ -29,7 +29,10 @@ struct OrderButtonDef {
   const char* name;
   const char* caption;
   const char* toolTip;
+  const char* help;  // what the order does, for the button's tip
 };
+// The tip of an order button: its label, its key, and what it does.
+QString OrderButtonTip(const OrderButtonDef& def, const std::string& label);
 const std::vector<OrderButtonDef>& OrderButtonDefs();
 
 // The window asks before what cannot be undone; scripts and the game's own

@@ -35,6 +35,8 @@ class MapWidget : public QWidget {
   ImageCanvas& canvas() { return canvas_; }
   // The window point (in the view's pixels) of the centre of hex (x, y).
   QPoint HexCentreOnView(int x, int y) const;
+  // The hex under a point of the view; zeros off the map.
+  HexXY HexAt(QPoint pos) const;
 
  signals:
   // The player did something on the map (scrolling); the window syncs.
@@ -56,8 +58,6 @@ class MapWidget : public QWidget {
   // The pointer moved (buttons held as given) or left the map.
   void Moved(QPoint pos, Qt::MouseButtons buttons);
   void Released(Qt::MouseButton button);
-  // The hex under the pointer, zeros when none.
-  HexXY HexAt(QPoint pos) const;
   void ScrollMoved(Qt::Orientation o, int value, bool dragging);
   void ScrollReleased();
   // The wheel scrolls (with Shift or a sideways wheel across), with Ctrl zooms.
@@ -98,8 +98,12 @@ class MapView : public QWidget {
   void mouseReleaseEvent(QMouseEvent*) override;
   void leaveEvent(QEvent*) override;
   void wheelEvent(QWheelEvent*) override;
+  // The hover tip: what the player may know of the hex under the mouse.
+  bool event(QEvent*) override;
 
  private:
+  // The target of an attack being prepared and the formations joined to it.
+  void DrawAttackMarks(QPainter& p);
   // The edge of the hexes within reach of the order under way.
   void DrawReachOutline(QPainter& p);
   MapWidget* owner_;
