@@ -1,5 +1,7 @@
 #include "main_window.h"
 
+#include "analysis_panel.h"
+
 #include "view_text.h"
 
 #include <QActionGroup>
@@ -215,6 +217,7 @@ MainWindow::~MainWindow() {
   if (platform_) {
     platform_->SetParentWindow(nullptr);
     platform_->SetBeforeDialog(nullptr);
+    platform_->SetAnalysisSink(nullptr);
   }
 }
 
@@ -257,14 +260,17 @@ QWidget* MainWindow::BuildCentre() {
   // Left: the map, the analysis log, the order buttons.
   auto* left = new QVBoxLayout();
   left->setSpacing(0);
+  auto* mapRow = new QHBoxLayout();
+  mapRow->setSpacing(0);
   map_ = new MapWidget(centre);
-  left->addWidget(map_, 1);
-  aiLog_ = new QListWidget(centre);
-  aiLog_->setObjectName("aiLog");
-  aiLog_->setMaximumHeight(120);
-  aiLog_->setFocusPolicy(Qt::NoFocus);
+  mapRow->addWidget(map_, 1);
+  // The computer player's analysis beside the map, F11 outside the editor.
+  aiLog_ = new AnalysisPanel(centre);
+  aiLog_->setFixedWidth(320);
   aiLog_->hide();
-  left->addWidget(aiLog_);
+  mapRow->addWidget(aiLog_);
+  left->addLayout(mapRow, 1);
+  if (platform_) platform_->SetAnalysisSink([this](const std::string& line) { aiLog_->Append(line); });
 
   orderBar_ = new QFrame(centre);
   orderBar_->setObjectName("orderBar");

@@ -22,6 +22,7 @@ class MapWidget;
 class Minimap;
 class SidePanel;
 class QtPlatform;
+class AnalysisPanel;
 
 // The order buttons of the map window, by the names scripts press them with,
 // with the short caption on the button and the tool tip the rules give it.
@@ -111,7 +112,7 @@ class MainWindow : public QMainWindow {
   QWidget* orderBar_ = nullptr;
   QGridLayout* orderGrid_ = nullptr;
   int orderButtonsPerRow_ = 0;
-  QListWidget* aiLog_ = nullptr;
+  AnalysisPanel* aiLog_ = nullptr;
   QLabel* regimeLabel_ = nullptr;
   QLabel* turnLabel_ = nullptr;
   QLabel* ppLabel_ = nullptr;
