@@ -9,6 +9,7 @@
 #include "new_turn_view.h"
 #include "newunit_view.h"
 #include "officerpool_view.h"
+#include "random_scenario_view.h"
 #include "research_view.h"
 #include "start_game_view.h"
 #include "transfer_view.h"
@@ -38,6 +39,7 @@ void RegisterAllDialogViews() {
   RegisterNewTurnView();
   RegisterNewUnitView();
   RegisterOfficerPoolView();
+  RegisterRandomScenarioView();
   RegisterResearchView();
   RegisterStartGameView();
   RegisterTransferView();

@@ -26,11 +26,15 @@
 #include "help_window.h"
 #include "map_widget.h"
 #include "minimap.h"
+#include "paint_panel.h"
+#include "editor/map_paint.h"
 #include "model/clear_dialog.h"
 #include "model/game_state.h"
 #include "model/hex_geometry.h"
 #include "orders/command.h"
 #include "platform/platform.h"
+#include "control/random_flow.h"
+#include "random/random_dialog.h"
 #include "qt_canvas.h"
 #include "qt_platform.h"
 #include "side_panel.h"
@@ -174,6 +178,12 @@ MainWindow::MainWindow(QtPlatform* platform) : platform_(platform) {
   }
 
   connect(map_, &MapWidget::Acted, this, [this] { SyncWithGame(); });
+  connect(map_, &MapWidget::HexDragged, this, [this](int x, int y) { Act([x, y] {
+    if (!mf::PaintStrokeOpen()) return;
+    mf::SelectHex(x, y);
+    mf::PaintDragTo(x, y);
+  }); });
+  connect(map_, &MapWidget::ButtonReleased, this, [this] { Act([] { mf::EndPaintStroke(); }); });
   connect(map_, &MapWidget::HexPressed, this,
           [this](int x, int y, int button) { Act([x, y, button] { mf::ClickMap(x, y, button); }); });
   connect(minimap_, &Minimap::Acted, this, [this] { SyncWithGame(); });
@@ -309,6 +319,8 @@ QWidget* MainWindow::BuildCentre() {
   minimap_ = new Minimap(rightColumn_);
   minimap_->setFixedHeight(190);
   right->addWidget(minimap_);
+  paintPanel_ = new PaintPanel(rightColumn_, this, [this](std::function<void()> c) { Act(c); });
+  right->addWidget(paintPanel_);
   panel_ = new SidePanel(rightColumn_);
   auto* scroll = new QScrollArea(rightColumn_);
   scroll->setObjectName("panelScroll");
@@ -374,6 +386,7 @@ void MainWindow::BuildMenus() {
     if (ThrowAwayGameConfirmed()) mf::NewScenarioCommand();
   });
   AddAction(file, "clearMap", "Clear Map...", [] { mf::ClearMapCommand(); });
+  AddAction(file, "randomScenario", "Random Scenario...", [] { mf::dostartgame(); });
   file->addSeparator();
   AddAction(file, "load", "Load...", [] {
     if (ThrowAwayGameConfirmed()) mf::LoadCommand();
@@ -519,7 +532,7 @@ void MainWindow::ReloadPicturesIfNeeded() {
 void MainWindow::ApplyMenuState() {
   const mf::MenuState m = mf::GetMenuState();
   const std::pair<const char*, bool> enabled[] = {
-      {"newScenario", m.newScenario}, {"clearMap", m.clearMap}, {"load", m.load},
+      {"newScenario", m.newScenario}, {"clearMap", m.clearMap}, {"randomScenario", m.randomScenario}, {"load", m.load},
       {"save", m.save},               {"import", m.import},     {"scenario1", m.scenarios},
       {"scenario2", m.scenarios},     {"scenario3", m.scenarios}, {"scenario4", m.scenarios},
       {"quit", m.quit},               {"start", m.start},       {"endTurn", m.endTurn},
@@ -604,6 +617,7 @@ void MainWindow::SyncWithGame() {
   orderBar_->setVisible(UI.MapControlsShown);
   aiLog_->setVisible(UI.AILogShown);
   ApplyButtons();
+  paintPanel_->Sync();
   buttons_["nextturn"]->setVisible(UI.MapControlsShown);
   if (platform_) platform_->SetBusy(UI.BusyPointer);
   ApplyMenuState();

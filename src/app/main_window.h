@@ -107,6 +107,7 @@ class MainWindow : public QMainWindow {
   MapWidget* map_ = nullptr;
   Minimap* minimap_ = nullptr;
   SidePanel* panel_ = nullptr;
+  class PaintPanel* paintPanel_ = nullptr;
   QWidget* rightColumn_ = nullptr;
   QWidget* orderBar_ = nullptr;
   QGridLayout* orderGrid_ = nullptr;

@@ -16,14 +16,18 @@
 #include "control/scenario_flow.h"
 #include "control/selection.h"
 #include "control/turn_cycle.h"
+#include "editor/map_paint.h"
 #include "engine/show_supply.h"
 #include "files/field_registry.h"
 #include "model/arith.h"
+#include "model/game_state.h"
 #include "model/reset.h"
 #include "model/rnd.h"
 #include "orders/command.h"
 #include "platform/paths.h"
 #include "platform/scripted_platform.h"
+#include "control/random_flow.h"
+#include "random/random_dialog.h"
 #include "script_tokenizer.h"
 #include "session.h"
 
@@ -217,6 +221,25 @@ bool Start(Run& run, const Words& a, std::string* why) {
   return true;
 }
 
+// The Random Scenario dialog with its fields set as given, then Start
+// Random Game; a made map is laid out and its first turn begins, as from the
+// File menu. With no settings nothing is queued, so that "on random" actions
+// (or the dialog's default, Start) are taken. A refused start fails the
+// script with the dialog's message.
+bool RandomGame(Run& run, const Words& a, std::string* why) {
+  std::vector<DialogAction> actions;
+  if (!RandomDialogActions(a, &actions, why)) {
+    *why = "random: " + *why;
+    return false;
+  }
+  if (!actions.empty()) {
+    actions.push_back({"start", ""});
+    run.platform.QueueDialog("random", std::move(actions));
+  }
+  dostartgame();
+  return true;
+}
+
 // The End Turn command answered Yes (in editing mode it refuses by itself).
 bool EndTurn(Run& run, const Words&, std::string*) {
   if (EndTurnAsks()) run.platform.QueueAnswerFirst("yes");
@@ -388,6 +411,83 @@ bool ProgramDirCommand(Run& run, const Words& a, std::string* why) {
   return true;
 }
 
+// The editor's painting tools: "paint regime N" types N in the regime box
+// and presses the regime button (an empty N shows the game's message),
+// "paint land ENTRY" selects the landscape list's row ENTRY (its number or
+// its text) and presses the type button, "paint urban" presses the urban
+// button for the selected hex (the questions take queued answers), "paint
+// end" ends the brush. A button whose brush is on already is pressed twice,
+// so that the new choice takes over. "paint drag X Y" drags the held
+// button onto a hex, "paint release" lets it go, "paint undo" and "paint
+// redo" are Ctrl+Z and Ctrl+Y; undo or redo with nothing to take back fails.
+bool Paint(Run&, const Words& a, std::string* why) {
+  const std::string& what = a[0];
+  auto arity = [&](std::size_t n, const char* usage) {
+    if (a.size() == n) return true;
+    *why = std::string("usage: ") + usage;
+    return false;
+  };
+  if (what == "regime") {
+    if (a.size() > 2) return arity(2, "paint regime [N]");
+    if (mf::UI.Order.RegimePaint > 0) PressRegimePaint();
+    SetPaintRegimeBox(a.size() == 2 ? a[1] : std::string());
+    PressRegimePaint();
+    return true;
+  }
+  if (what == "land") {
+    if (!arity(2, "paint land ENTRY")) return false;
+    int row = -1;
+    for (int r = 0; r <= kPaintListRows; ++r)
+      if (a[1] == std::to_string(r) || (!PaintListEntry(r).empty() && a[1] == PaintListEntry(r))) row = r;
+    if (row < 0) {
+      *why = "paint land: \"" + a[1] + "\" is no row of the landscape list (0..16 or an entry's text)";
+      return false;
+    }
+    if (mf::UI.Order.LandscapePaint > 0) PressTypePaint();
+    SelectPaintRow(row);
+    PressTypePaint();
+    return true;
+  }
+  if (what == "urban") {
+    if (!arity(1, "paint urban")) return false;
+    PressUrban();
+    return true;
+  }
+  if (what == "end") {
+    if (!arity(1, "paint end")) return false;
+    EndPainting();
+    return true;
+  }
+  if (what == "drag") {
+    long x = 0, y = 0;
+    if (!arity(3, "paint drag X Y")) return false;
+    if (!WholeNumberIn(a[1], 0, 999, &x) || !WholeNumberIn(a[2], 0, 999, &y)) {
+      *why = "paint drag: \"" + a[1] + " " + a[2] + "\" is not a hex (two whole numbers)";
+      return false;
+    }
+    if (PaintStrokeOpen() && ValidHex(static_cast<int>(x), static_cast<int>(y))) {
+      SelectHex(static_cast<int>(x), static_cast<int>(y));
+      PaintDragTo(static_cast<int>(x), static_cast<int>(y));
+    }
+    return true;
+  }
+  if (what == "release") {
+    if (!arity(1, "paint release")) return false;
+    EndPaintStroke();
+    return true;
+  }
+  if (what == "undo" || what == "redo") {
+    if (!arity(1, "paint undo|redo")) return false;
+    if (!(what == "undo" ? UndoPaint() : RedoPaint())) {
+      *why = "paint " + what + ": there is no stroke to " + what;
+      return false;
+    }
+    return true;
+  }
+  *why = "paint: \"" + what + "\" is not one of regime, land, urban, end, drag, release, undo, redo";
+  return false;
+}
+
 // The script's commands. A command without a handler belongs to a part of the
 // game that is not built yet: it fails loudly, so that a script never passes
 // by skipping what it asked for.
@@ -409,6 +509,11 @@ const Command kCommands[] = {
     {"start", 0, -1,
      "start [fog=0/1] [exploration=0/1] [pbem=0/1] [passwords=0/1] [aibonus=0/1] [ai=1,0,..] [email=a,b,..]",
      &Start},
+    {"random", 0, -1,
+     "random [size=N] [land=L] [regimes=R] [humans=1,0,..] [email=a,b,..] [seed=S] [realstart=0/1] [fog=0/1] "
+     "[exploration=0/1] [pbem=0/1] [passwords=0/1] [aibonus=0/1] [allied=0/1]",
+     &RandomGame},
+    {"paint", 1, 3, "paint regime [N] | land ENTRY | urban | end | drag X Y | release | undo | redo", &Paint},
     {"endturn", 0, 0, "endturn", &EndTurn},
     {"surrender", 0, 0, "surrender", &Surrender},
     {"click", 2, 3, "click X Y [right]", &Click},

@@ -446,6 +446,10 @@ void StartCommand() {
     Game.FogOfWar = 0;
     return;
   }
+  BeginFirstTurn();
+}
+
+void BeginFirstTurn() {
   UI.EditMode = 0;
   UI.ShowEditorPanel = false;
   UI.MapControlsShown = false;
