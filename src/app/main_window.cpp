@@ -13,6 +13,7 @@
 #include <QScrollArea>
 #include <QVBoxLayout>
 
+#include "editor/editor_menu.h"
 #include "engine/turn_cycle.h"
 #include "files/scenario_file.h"
 #include "map_widget.h"
@@ -340,6 +341,10 @@ void MainWindow::BuildMenus() {
   AddAction(game, "start", "Start", [] { mf::StartCommand(); });
   AddAction(game, "endTurn", "End Turn", [] { mf::EndTurnCommand(); });
   AddAction(game, "surrender", "Surrender", [] { mf::SurrenderCommand(); });
+  game->addSeparator();
+  for (const auto& e : mf::GameMenuEntries()) AddMenuDialog(game, e.name, e.text);
+  // F3 opens the status reports, as the key beside the editor's F2.
+  if (QAction* status = action("status")) status->setShortcut(QKeySequence(Qt::Key_F3));
 
   QMenu* view = menuBar()->addMenu("&View");
   const struct {
@@ -380,6 +385,16 @@ void MainWindow::BuildMenus() {
 
   QMenu* edit = menuBar()->addMenu("&Edit");
   AddAction(edit, "editor", "Editor", [] { mf::ToggleEditor(); }, true);
+  edit->addSeparator();
+  for (const auto& e : mf::EditMenuEntries()) AddMenuDialog(edit, e.name, e.text);
+}
+
+void MainWindow::AddMenuDialog(QMenu* menu, const std::string& name, const char* text) {
+  AddAction(menu, name, text, [name] {
+    std::string why;
+    mf::OpenMenuDialog(name, &why);
+  });
+  menuDialogs_.push_back(name);
 }
 
 QAction* MainWindow::action(const std::string& name) const {
@@ -442,6 +457,9 @@ void MainWindow::ApplyMenuState() {
       {"surrender", m.surrender},     {"editor", m.editor}};
   for (const auto& [name, on] : enabled) {
     if (QAction* a = action(name)) a->setEnabled(on);
+  }
+  for (const auto& name : menuDialogs_) {
+    if (QAction* a = action(name)) a->setEnabled(mf::MenuDialogEnabled(name));
   }
   const std::pair<const char*, bool> checked[] = {{"showEnemy", m.showEnemy},
                                                   {"showSight", m.showSight},

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "combat/battle_window.h"
+#include "editor/editor_menu.h"
 #include "engine/show_supply.h"
 #include "engine/turn_cycle.h"
 #include "files/field_registry.h"
@@ -39,6 +40,7 @@ struct Run {
   std::ostream& out;
   ScriptedPlatform platform;
   std::size_t msgCursor = 0;
+  std::size_t reportCursor = 0;
   std::string tempDir;  // made on the first use of $TMP, removed at the end
 
   Run(std::string n, std::string dir, std::ostream& o) : name(std::move(n)), baseDir(std::move(dir)), out(o) {}
@@ -157,6 +159,40 @@ bool ExpectMsg(Run& run, const Words& a, std::string* why) {
   *why = "expect-msg: no message \"" + a[0] + "\" was shown";
   return false;
 }
+
+// Fails when a message box, question or prompt with that text was shown
+// since the last expect-msg or expect-no-msg; the next check starts after
+// what has been shown so far.
+bool ExpectNoMsg(Run& run, const Words& a, std::string* why) {
+  const auto& events = run.platform.Events();
+  for (std::size_t i = run.msgCursor; i < events.size(); ++i) {
+    const auto& e = events[i];
+    const bool box = e.kind == PlatformEvent::kMessage || e.kind == PlatformEvent::kQuestion ||
+                     e.kind == PlatformEvent::kPrompt;
+    if (box && e.text == a[0]) {
+      *why = "expect-no-msg: the message \"" + a[0] + "\" was shown";
+      return false;
+    }
+  }
+  run.msgCursor = events.size();
+  return true;
+}
+
+// Consumes printed report lines up to the first that reads TEXT.
+bool ExpectReport(Run& run, const Words& a, std::string* why) {
+  const auto& events = run.platform.Events();
+  for (std::size_t i = run.reportCursor; i < events.size(); ++i) {
+    if (events[i].kind == PlatformEvent::kReport && events[i].text == a[0]) {
+      run.reportCursor = i + 1;
+      return true;
+    }
+  }
+  *why = "expect-report: no report line \"" + a[0] + "\" was shown";
+  return false;
+}
+
+// A dialog of the menus, opened as its menu entry opens it.
+bool Open(Run&, const Words& a, std::string* why) { return OpenMenuDialog(a[0], why); }
 
 bool Answer(Run& run, const Words& a, std::string*) {
   for (const auto& answer : a) run.platform.QueueAnswer(answer);
@@ -369,6 +405,9 @@ const Command kCommands[] = {
     {"print", 1, 1, "print FIELD", &Print},
     {"expect", 2, 2, "expect FIELD VALUE", &Expect},
     {"expect-msg", 1, 1, "expect-msg \"TEXT\"", &ExpectMsg},
+    {"expect-no-msg", 1, 1, "expect-no-msg \"TEXT\"", &ExpectNoMsg},
+    {"expect-report", 1, 1, "expect-report \"TEXT\"", &ExpectReport},
+    {"open", 1, 1, "open NAME", &Open},
     {"answer", 1, -1, "answer A [A ...]", &Answer},
     {"on", 1, -1, "on DIALOG ACTION ...", &On},
     {"tick", 0, 1, "tick [N]", &Tick},

@@ -1,5 +1,7 @@
 #include "platform/scripted_platform.h"
 
+#include <cctype>
+
 #include "model/arith.h"
 
 namespace mf {
@@ -42,6 +44,26 @@ std::string ScriptedPlatform::InputPrompt(const std::string& text, const std::st
 }
 
 void ScriptedPlatform::PlaySound(int slot) { sounds_.push_back(slot); }
+
+void ScriptedPlatform::ShowReport(const std::vector<std::string>& lines) {
+  for (const auto& line : lines) Record({PlatformEvent::kReport, "", line, ""});
+}
+
+bool ScriptedPlatform::PickColor(long* rgb) {
+  std::string answer;
+  if (!answers_.empty()) {
+    answer = answers_.front();
+    answers_.pop_front();
+  }
+  std::string digits = answer;
+  if (!digits.empty() && digits[0] == '#') digits.erase(0, 1);
+  bool ok = digits.size() == 6;
+  for (char c : digits) ok = ok && std::isxdigit(static_cast<unsigned char>(c));
+  Record({PlatformEvent::kColor, "", "colour", ok ? "#" + digits : "cancel"});
+  if (!ok) return false;
+  *rgb = std::stol(digits, nullptr, 16);
+  return true;
+}
 
 std::string ScriptedPlatform::OpenFileDialog(const std::string& title, const std::string&,
                                              const std::string&) {
@@ -123,6 +145,10 @@ std::string FormatEvent(const PlatformEvent& e) {
       return "DIALOG [" + e.title + "] " + e.text;
     case PlatformEvent::kSound:
       return "SOUND " + e.text;
+    case PlatformEvent::kReport:
+      return "REPORT " + e.text;
+    case PlatformEvent::kColor:
+      return "COLOUR -> " + e.answer;
   }
   return "";
 }
