@@ -7,6 +7,7 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include "dialog_keys.h"
 #include "dialog_views.h"
 #include "model/clear_dialog.h"
 
@@ -41,6 +42,7 @@ void ShowClearDialog(mf::HumbleDialog& humble, QWidget* parent) {
     dialog->MakeItSoPressed();
     window.accept();
   });
+  SetMainAction(&window, makeItSo);
   window.exec();
   // Closed by its frame: nothing is cleared.
   if (dialog->IsOpen()) dialog->Cancel();

@@ -11,6 +11,7 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include "dialog_keys.h"
 #include "dialog_views.h"
 #include "engine/event_dialog.h"
 #include "view/sprite_table.h"
@@ -102,6 +103,7 @@ void ShowEvent(mf::HumbleDialog& humble, QWidget* parent) {
   // the player reading one gets the ordinary pointer.
   QApplication::setOverrideCursor(QCursor(Qt::ArrowCursor));
   // exec() runs the event loop, so the main window's timer keeps ticking.
+  SetMainAction(&window, ok);
   if (dialog->IsOpen()) window.exec();
   QApplication::restoreOverrideCursor();
 }

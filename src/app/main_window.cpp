@@ -32,6 +32,7 @@
 #include "view/menu_state.h"
 #include "view/panel.h"
 #include "view/selection.h"
+#include "view/sprite_table.h"
 
 namespace mf::app {
 namespace {
@@ -106,6 +107,18 @@ int GameKeyCode(int qtKey) {
 
 }  // namespace
 
+bool GameInProgress() { return Game.Turn > 0 && UI.EditMode != 1; }
+
+bool ThrowAwayGameConfirmed() {
+  if (!GameInProgress()) return true;
+  return mf::Plat().AskYesNo(kThrowAwayQuestion, kThrowAwayTitle);
+}
+
+bool SurrenderConfirmed() {
+  if (!GameInProgress() || UI.BusyPointer) return true;  // the command itself ignores it then
+  return mf::Plat().AskYesNo(kSurrenderQuestion, kSurrenderTitle);
+}
+
 const std::vector<OrderButtonDef>& OrderButtonDefs() {
   static const std::vector<OrderButtonDef> defs = {
       {"move", "[M]ove", "[M]ove"},
@@ -139,7 +152,11 @@ MainWindow::MainWindow(QtPlatform* platform) : platform_(platform) {
 
   mf::InstallMapCanvas(&map_->canvas());
   mf::InstallPanelHexCanvas(&panel_->hexCanvas());
-  if (platform_) platform_->SetParentWindow(this);
+  if (platform_) {
+    platform_->SetParentWindow(this);
+    // Behind every dialog the window shows the game as it is at that moment.
+    platform_->SetBeforeDialog([this](const std::string&) { SyncWithGame(); });
+  }
 
   connect(map_, &MapWidget::Acted, this, [this] { SyncWithGame(); });
   connect(map_, &MapWidget::HexPressed, this,
@@ -172,7 +189,10 @@ MainWindow::~MainWindow() {
   timer_.stop();
   mf::InstallMapCanvas(nullptr);
   mf::InstallPanelHexCanvas(nullptr);
-  if (platform_) platform_->SetParentWindow(nullptr);
+  if (platform_) {
+    platform_->SetParentWindow(nullptr);
+    platform_->SetBeforeDialog(nullptr);
+  }
 }
 
 QWidget* MainWindow::BuildCentre() {
@@ -314,22 +334,36 @@ QAction* MainWindow::AddAction(QMenu* menu, const std::string& name, const QStri
   QAction* a = menu->addAction(text);
   a->setObjectName(Q(name));
   a->setCheckable(checkable);
-  connect(a, &QAction::triggered, this, [this, command] { Act(command); });
+  // A command of the menus may change anything (a clear, a load, a refused
+  // load, a start, a turn handed over): the whole window is brought up to date.
+  connect(a, &QAction::triggered, this, [this, command] {
+    Act([command] {
+      command();
+      RequestRedraw(2);
+      UI.PanelDirty = true;
+    });
+  });
   actions_[name] = a;
   return a;
 }
 
 void MainWindow::BuildMenus() {
   QMenu* file = menuBar()->addMenu("&File");
-  AddAction(file, "newScenario", "New Scenario...", [] { mf::NewScenarioCommand(); });
+  AddAction(file, "newScenario", "New Scenario...", [] {
+    if (ThrowAwayGameConfirmed()) mf::NewScenarioCommand();
+  });
   AddAction(file, "clearMap", "Clear Map...", [] { mf::ClearMapCommand(); });
   file->addSeparator();
-  AddAction(file, "load", "Load...", [] { mf::LoadCommand(); });
+  AddAction(file, "load", "Load...", [] {
+    if (ThrowAwayGameConfirmed()) mf::LoadCommand();
+  });
   AddAction(file, "save", "Save...", [] { mf::SaveCommand(); });
   AddAction(file, "import", "Import Rules...", [] { mf::ImportCommand(); });
   file->addSeparator();
   for (int n = 1; n <= 4; ++n) {
-    AddAction(file, "scenario" + std::to_string(n), QString("Scenario %1").arg(n), [n] { mf::LoadMenuScenario(n); });
+    AddAction(file, "scenario" + std::to_string(n), QString("Scenario %1").arg(n), [n] {
+      if (ThrowAwayGameConfirmed()) mf::LoadMenuScenario(n);
+    });
   }
   file->addSeparator();
   QAction* quit = file->addAction("Quit");
@@ -340,7 +374,9 @@ void MainWindow::BuildMenus() {
   QMenu* game = menuBar()->addMenu("&Game");
   AddAction(game, "start", "Start", [] { mf::StartCommand(); });
   AddAction(game, "endTurn", "End Turn", [] { mf::EndTurnCommand(); });
-  AddAction(game, "surrender", "Surrender", [] { mf::SurrenderCommand(); });
+  AddAction(game, "surrender", "Surrender", [] {
+    if (SurrenderConfirmed()) mf::SurrenderCommand();
+  });
   game->addSeparator();
   for (const auto& e : mf::GameMenuEntries()) AddMenuDialog(game, e.name, e.text);
   // F3 opens the status reports, as the key beside the editor's F2.
@@ -471,6 +507,11 @@ void MainWindow::ApplyMenuState() {
   }
 }
 
+MainWindow::GameFace MainWindow::CurrentFace() {
+  return GameFace{Game.Turn,     Game.CurRegime, UI.EditMode,       Game.MapW,          Game.MapH,
+                  UI.MapShown,   Game.FogOfWar,  Game.FogOfExploration, mf::SpriteLoadCount()};
+}
+
 void MainWindow::SyncWithGame() {
   if (syncing_ || quitting_) return;
   syncing_ = true;
@@ -478,6 +519,15 @@ void MainWindow::SyncWithGame() {
   if (quitting_) {
     syncing_ = false;
     return;
+  }
+
+  // Another game, regime, turn or mode than at the last sync: everything is
+  // drawn afresh, whatever the game asked for.
+  const GameFace face = CurrentFace();
+  if (face != lastFace_) {
+    lastFace_ = face;
+    RequestRedraw(2);
+    UI.PanelDirty = true;
   }
 
   // The map: scroll bars, then what the game asked to be redrawn.
@@ -496,9 +546,12 @@ void MainWindow::SyncWithGame() {
     panel_->ShowContent();
   }
 
-  regimeLabel_->setText(Q(UI.RegimeLabel));
-  turnLabel_->setText(UI.TurnLabel.empty() ? QString() : "Turn " + Q(UI.TurnLabel));
-  ppLabel_->setText(mf::Panel.ppText.empty() ? QString() : "PP " + Q(mf::Panel.ppText));
+  // The header names a regime, a turn and points only while a game is in
+  // play: after a clear or a refused load no regime of a game now gone stays.
+  const bool inPlay = Game.Turn > 0;
+  regimeLabel_->setText(inPlay ? Q(UI.RegimeLabel) : UI.EditMode == 1 ? QString("Editing") : QString());
+  turnLabel_->setText(!inPlay || UI.TurnLabel.empty() ? QString() : "Turn " + Q(UI.TurnLabel));
+  ppLabel_->setText(!inPlay || mf::Panel.ppText.empty() ? QString() : "PP " + Q(mf::Panel.ppText));
   modeLabel_->setText(UI.EditMode == 1 ? QString("EDITING   %1 x %2").arg(Game.MapW).arg(Game.MapH) : QString());
   helpLine_->setText(Q(UI.HelpText));
   setWindowTitle(UI.WindowTitle.empty() ? QString(mf::kProgramTitle) : Q(UI.WindowTitle));

@@ -33,6 +33,18 @@ struct OrderButtonDef {
 };
 const std::vector<OrderButtonDef>& OrderButtonDefs();
 
+// The window asks before what cannot be undone; scripts and the game's own
+// flow never ask. A menu entry that replaces the game in play (new, load, a
+// scenario, a random scenario) runs its command only when this says yes.
+constexpr const char* kThrowAwayQuestion =
+    "A game is in progress. Anything since your last save will be lost. Do you want to go on?";
+constexpr const char* kThrowAwayTitle = "Game in progress";
+constexpr const char* kSurrenderQuestion = "Do you really want to surrender? This cannot be undone.";
+constexpr const char* kSurrenderTitle = "Surrender";
+bool GameInProgress();
+bool ThrowAwayGameConfirmed();
+bool SurrenderConfirmed();
+
 class MainWindow : public QMainWindow {
   Q_OBJECT
  public:
@@ -81,6 +93,14 @@ class MainWindow : public QMainWindow {
   // line as the order machine has them.
   void ApplyButtons();
   void ShowOrderLine();
+  // What decides whether the whole window must be drawn afresh.
+  struct GameFace {
+    long long turn, regime, editMode, mapW, mapH;
+    bool mapShown;
+    long long fogOfWar, fogOfExploration, spriteLoads;
+    bool operator==(const GameFace&) const = default;
+  };
+  static GameFace CurrentFace();
 
   QtPlatform* platform_;
   MapWidget* map_ = nullptr;
@@ -105,6 +125,7 @@ class MainWindow : public QMainWindow {
   int acting_ = 0;
   int tickDepth_ = 0;  // ticks under way, nested while a tick's dialog waits
   bool syncing_ = false;
+  GameFace lastFace_{};
   bool quitting_ = false;
 };
 

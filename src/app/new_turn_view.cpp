@@ -14,6 +14,7 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include "dialog_keys.h"
 #include "dialog_views.h"
 #include "engine/new_turn_dialog.h"
 
@@ -144,6 +145,10 @@ void ShowNewTurn(mf::HumbleDialog& humble, QWidget* parent) {
     refresh();
   });
   refresh();
+  // Enter and Space start the turn, whichever button last had the focus;
+  // with the password part up the password box takes the focus.
+  SetMainAction(&window, proceed);
+  if (dialog->passwordShown) password->setFocus(Qt::OtherFocusReason);
 
   // The turn changes hands under the busy pointer; the player reading his
   // report gets the ordinary one.

@@ -177,6 +177,8 @@ std::string QtPlatform::SaveFileDialog(const std::string& title, const std::stri
 }
 
 void QtPlatform::RunDialog(mf::HumbleDialog& dialog) {
+  if (beforeDialog_) beforeDialog_(dialog.DialogName());
+  if (dialogWatcher_) dialogWatcher_(dialog.DialogName());
   DialogViewFn view = unattended_ ? DialogViewFn() : FindDialogView(dialog.DialogName());
   if (view) {
     view(dialog, parent_);

@@ -6,6 +6,7 @@
 #include <QString>
 #include <QWidget>
 #include <deque>
+#include <functional>
 #include <map>
 #include <memory>
 #include <vector>
@@ -58,6 +59,13 @@ class QtPlatform : public mf::Platform {
   // Texts of the message boxes and questions met while unattended.
   const std::vector<std::string>& Messages() const { return messages_; }
 
+  // Runs before any dialog of the game comes up, with its name: the main
+  // window brings itself up to date there, so that nothing stale (the last
+  // player's map, header or formation) stands behind the dialog.
+  void SetBeforeDialog(std::function<void(const std::string&)> f) { beforeDialog_ = std::move(f); }
+  // Runs after that, attended or not (the tests look at the window there).
+  void SetDialogWatcher(std::function<void(const std::string&)> f) { dialogWatcher_ = std::move(f); }
+
   bool Busy() const { return busy_; }
   // Number of sounds started (tests look at it; no device needed).
   int SoundsStarted() const { return soundsStarted_; }
@@ -77,6 +85,8 @@ class QtPlatform : public mf::Platform {
   bool audioAvailable_ = false;
   int soundsStarted_ = 0;
   std::map<std::string, QSoundEffect*> effects_;  // by file path, owned
+  std::function<void(const std::string&)> beforeDialog_;
+  std::function<void(const std::string&)> dialogWatcher_;
 };
 
 }  // namespace mf::app

@@ -15,6 +15,7 @@
 #include <QSignalBlocker>
 #include <QVBoxLayout>
 
+#include "dialog_keys.h"
 #include "dialog_views.h"
 #include "engine/start_game_dialog.h"
 
@@ -153,6 +154,7 @@ void ShowStartGame(mf::HumbleDialog& humble, QWidget* parent) {
   refresh();
 
   QApplication::setOverrideCursor(QCursor(Qt::ArrowCursor));
+  SetMainAction(&window, start);
   window.exec();
   QApplication::restoreOverrideCursor();
   // Cancel, Esc and the frame's close all cancel.

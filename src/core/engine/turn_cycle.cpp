@@ -278,6 +278,9 @@ void NextTurn() {
     UI.MapShown = false;
     UI.RegimeLabel = Regime[r].Name;
     UI.TurnLabel = NumText(Game.Turn);
+    // Nothing of the last player's turn stays on screen behind the report.
+    UI.HelpText.clear();
+    UI.PanelDirty = true;
     for (int u = 1; u <= kUnitCap; ++u) Unit[u].SupplyDemand = 0;
     if (EV(704) == 1) ShowEventsOfThisTurn();
     // An event named the next scenario of the campaign: the timer loads it.

@@ -111,6 +111,10 @@ void DrawSupplyFigure(int x, int y, PixelXY c) {
 
 }  // namespace
 
+bool HexUnexplored(int x, int y) {
+  return ValidHex(x, y) && !SeenByCurrent(x, y) && Game.FogOfExploration != 0 && UI.EditMode == 0;
+}
+
 bool RangeModeOn() {
   const OrderFlags& o = UI.Order;
   return o.SelOrderMove > 0 || o.TransferOrder > 0 || o.AirliftOrder > 0 || o.AirSupplyOrder > 0 ||
@@ -122,7 +126,7 @@ void TerrainDraw(int x, int y, int left, int top, bool dark, int pass) {
   Canvas& canvas = CanvasOfPass(pass);
   HexRec& h = Hex[x][y];
 
-  if (!SeenByCurrent(x, y) && Game.FogOfExploration != 0 && UI.EditMode == 0) {
+  if (HexUnexplored(x, y)) {
     canvas.Blit(sprite::kUnexplored, left, top);
     return;
   }

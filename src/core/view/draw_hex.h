@@ -42,6 +42,11 @@ constexpr int Checked(long long n) { return n >= 0 && n <= kSlots ? static_cast<
 // the flood's Hex.Mark then stands, and hexes within reach draw dark.
 bool RangeModeOn();
 
+// True when the current regime has never seen hex (x, y) and the fog of
+// exploration hides it: the map shows the white hex and nothing of what
+// stands or grows there.
+bool HexUnexplored(int x, int y);
+
 // Paints hex (x, y) onto the map canvas: terrain, counters, urban markers,
 // grid and the overlays that are switched on. Hexes outside the map window
 // are skipped.

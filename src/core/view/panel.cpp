@@ -26,6 +26,7 @@ constexpr int kPortraitBase = 1800;
 
 const char* const kHidden = "N/A";
 const char* const kNoBoss = "None assigned";
+const char* const kUnexploredCaption = "Unexplored hex";
 
 const TypeRec& TypeOf(Long t) { return ValidType(t) ? Type[t] : Type[0]; }
 Long Attr(Long t, int attr) { return TypeOf(t).Attr[attr]; }
@@ -61,7 +62,22 @@ bool FindUnitHex(int u, int* fx, int* fy) {
   return false;
 }
 
+// While the map is put away (a turn changing hands, the computer at work)
+// the player is shown nothing of it; the editor always sees its map.
+bool MapHiddenFromPlayer() { return !UI.MapShown && UI.EditMode != 1; }
+
+// A computer regime's own figures are not for the human players at the
+// screen; its label is the driver's, with " (AI)".
+bool ComputerAtWork() {
+  return Game.Turn > 0 && UI.EditMode != 1 && ValidRegime(Game.CurRegime) && Regime[Game.CurRegime].AI > 0;
+}
+
 void FillStatus() {
+  if (ComputerAtWork()) {
+    Panel.regimeText = UI.RegimeLabel;
+    Panel.turnText = UI.TurnLabel;
+    return;
+  }
   if (ValidRegime(Game.CurRegime)) {
     UI.RegimeLabel = Regime[Game.CurRegime].Name;
     UI.TurnLabel = NumText(Game.Turn);
@@ -269,14 +285,27 @@ std::string CoverText(int u) {
   return "COV: ALL";
 }
 
-void Refresh(int x, int y) {
+namespace {
+
+void Fill(int x, int y, bool draw) {
   ClearPanels();
   FillStatus();
-  if (!ValidHex(x, y)) return;
+  if (!ValidHex(x, y) || MapHiddenFromPlayer()) return;
   Panel.hexShown = true;
   Panel.x = x;
   Panel.y = y;
   const HexRec& h = Hex[x][y];
+
+  // A hex the regime never saw: the white hex, and nothing of what is there.
+  if (HexUnexplored(x, y)) {
+    Panel.hexPictureShown = true;
+    Panel.hexCaption = kUnexploredCaption;
+    if (draw) {
+      PanelHexCanvas().Clear();
+      TerrainDraw(x, y, 0, 0, false, 2);
+    }
+    return;
+  }
 
   int count = 0;
   for (int s = 1; s <= kStackSlots; ++s) {
@@ -314,11 +343,54 @@ void Refresh(int x, int y) {
 
   if (!unitsSeen) {
     Panel.hexPictureShown = true;
-    PanelHexCanvas().Clear();
-    TerrainDraw(x, y, 0, 0, false, 2);
+    if (draw) {
+      PanelHexCanvas().Clear();
+      TerrainDraw(x, y, 0, 0, false, 2);
+    }
     return;
   }
   if (sel >= 1 && sel <= kStackSlots && ValidUnit(h.Unit[sel]) && h.Unit[sel] > 0) FillUnit(h.Unit[sel]);
+}
+
+}  // namespace
+
+void Refresh(int x, int y) { Fill(x, y, true); }
+
+PanelContent PanelOf(int x, int y) {
+  const PanelContent shown = Panel;
+  Fill(x, y, false);
+  PanelContent out = Panel;
+  Panel = shown;
+  return out;
+}
+
+std::string HexTipText(int x, int y) {
+  if (!ValidHex(x, y)) return std::string();
+  const PanelContent p = PanelOf(x, y);
+  if (!p.hexShown) return std::string();
+  std::string tip = "Hex " + NumText(x) + ", " + NumText(y);
+  if (HexUnexplored(x, y)) return tip + "\n" + p.hexCaption;
+  if (!p.landText.empty()) tip += "\n" + p.landText;
+  if (!p.ownerText.empty()) tip += "\n" + p.ownerText;
+  if (p.urbanShown) {
+    tip += "\n" + p.urbanName + " (pop " + p.urbanPop + ")";
+    if (!p.urbanProd.empty()) tip += "\n" + p.urbanProd;
+  }
+  for (int s = 1; s <= kStackSlots; ++s) {
+    const PanelStackSlot& slot = p.stack[s];
+    if (!slot.shown || !ValidUnit(slot.unit)) continue;
+    std::string line = Unit[slot.unit].Name;
+    // A foreign formation's estimate is on its counter; working it out here
+    // would draw from the game's random numbers.
+    if (SeesUnitFully(slot.unit)) {
+      const CounterTexts t = CounterFigureTexts(slot.unit);
+      if (!t.attack.empty()) line += "  attack " + t.attack;
+      if (!t.defence.empty()) line += ", defence " + t.defence;
+      if (slot.mp >= 0) line += ", MP " + NumText(slot.mp);
+    }
+    tip += "\n" + line;
+  }
+  return tip;
 }
 
 }  // namespace mf

@@ -94,6 +94,14 @@ extern PanelContent Panel;
 // Fills Panel for hex (x, y), and draws the hex into the panel hex canvas
 // when no formation is to be seen there.
 void Refresh(int x, int y);
+// What the panel would show for hex (x, y), without touching Panel or the
+// panel's hex picture: the hover tip of the map and the reports use it, so
+// they never tell more than the panel does.
+PanelContent PanelOf(int x, int y);
+// The map's hover tip for hex (x, y): its landscape, owner and town, and the
+// formations of its stack, told exactly as far as the panel would tell them.
+// Lines are separated by '\n'; empty off the map.
+std::string HexTipText(int x, int y);
 // Blanks every label and hides every section.
 void ClearPanels();
 
