@@ -145,13 +145,16 @@ bool Expect(Run&, const Words& a, std::string* why) {
   return true;
 }
 
+// A message box, a question or a prompt: what expect-msg looks at.
+bool IsBox(const PlatformEvent& e) {
+  return e.kind == PlatformEvent::kMessage || e.kind == PlatformEvent::kQuestion || e.kind == PlatformEvent::kPrompt;
+}
+
 bool ExpectMsg(Run& run, const Words& a, std::string* why) {
   const auto& events = run.platform.Events();
   for (std::size_t i = run.msgCursor; i < events.size(); ++i) {
     const auto& e = events[i];
-    const bool box = e.kind == PlatformEvent::kMessage || e.kind == PlatformEvent::kQuestion ||
-                     e.kind == PlatformEvent::kPrompt;
-    if (box && e.text == a[0]) {
+    if (IsBox(e) && e.text == a[0]) {
       run.msgCursor = i + 1;
       return true;
     }
@@ -167,9 +170,7 @@ bool ExpectNoMsg(Run& run, const Words& a, std::string* why) {
   const auto& events = run.platform.Events();
   for (std::size_t i = run.msgCursor; i < events.size(); ++i) {
     const auto& e = events[i];
-    const bool box = e.kind == PlatformEvent::kMessage || e.kind == PlatformEvent::kQuestion ||
-                     e.kind == PlatformEvent::kPrompt;
-    if (box && e.text == a[0]) {
+    if (IsBox(e) && e.text == a[0]) {
       *why = "expect-no-msg: the message \"" + a[0] + "\" was shown";
       return false;
     }
