@@ -9,7 +9,7 @@
 #include <QVBoxLayout>
 
 #include "dialog_views.h"
-#include "editor/status_dialog.h"
+#include "view/status_dialog.h"
 #include "editor_views.h"
 #include "view_text.h"
 

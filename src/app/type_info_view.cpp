@@ -11,7 +11,7 @@
 #include <QVBoxLayout>
 
 #include "dialog_views.h"
-#include "editor/type_info_dialog.h"
+#include "engine/type_info_dialog.h"
 #include "editor_views.h"
 #include "view_text.h"
 

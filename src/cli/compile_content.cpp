@@ -104,9 +104,9 @@ class Parser {
       Error(path.string(), "includes nest deeper than " + std::to_string(kMaxIncludeDepth));
       return;
     }
-    std::string bytes;
-    if (!ReadBytes(path.string(), &bytes)) {
-      Error(path.string(), "cannot read the file");
+    std::string bytes, why;
+    if (!ReadBytes(path.string(), &bytes, &why)) {
+      Error(path.string(), "cannot read the file: " + why);
       return;
     }
     if (bytes.rfind("\xEF\xBB\xBF", 0) == 0) bytes.erase(0, 3);

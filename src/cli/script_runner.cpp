@@ -8,22 +8,22 @@
 #include <vector>
 
 #include "combat/battle_window.h"
-#include "editor/editor_menu.h"
+#include "control/editor_menu.h"
+#include "control/keyboard.h"
+#include "control/order_state.h"
+#include "control/scenario_flow.h"
+#include "control/selection.h"
+#include "control/turn_cycle.h"
 #include "engine/show_supply.h"
-#include "engine/turn_cycle.h"
 #include "files/field_registry.h"
-#include "files/scenario_file.h"
 #include "model/arith.h"
 #include "model/reset.h"
 #include "model/rnd.h"
 #include "orders/command.h"
-#include "orders/order_state.h"
 #include "platform/paths.h"
 #include "platform/scripted_platform.h"
 #include "script_tokenizer.h"
 #include "session.h"
-#include "view/keyboard.h"
-#include "view/selection.h"
 
 namespace fs = std::filesystem;
 
@@ -96,13 +96,21 @@ bool Seed(Run&, const Words& a, std::string* why) {
   return true;
 }
 
-bool NewScenario(Run&, const Words& a, std::string*) {
+bool NewScenario(Run&, const Words& a, std::string* why) {
+  if (!MapSizeWords(a[0], a[1], why)) {
+    *why = "new: " + *why;
+    return false;
+  }
   MakeItSo(true, a[0], a[1]);
   AfterClearCommand(true);
   return true;
 }
 
-bool ClearMap(Run&, const Words& a, std::string*) {
+bool ClearMap(Run&, const Words& a, std::string* why) {
+  if (!MapSizeWords(a[0], a[1], why)) {
+    *why = "clearmap: " + *why;
+    return false;
+  }
   MakeItSo(false, a[0], a[1]);
   AfterClearCommand(false);
   return true;
@@ -378,6 +386,8 @@ bool Rename(Run&, const Words&, std::string*) {
 // missing). A folder without pictures of its own borrows those of the
 // program folder it replaces, so that officers still find their portraits.
 bool ProgramDirCommand(Run& run, const Words& a, std::string* why) {
+  // An empty name is a cancelled folder choice: the program folder stays.
+  if (a[0].empty()) return true;
   const fs::path dir = fs::path(run.Path(a[0])).lexically_normal();
   std::error_code ec;
   fs::create_directories(dir / "scenarios", ec);
@@ -513,9 +523,9 @@ int RunScriptText(const std::string& text, const std::string& name, const std::s
 }
 
 int RunScriptFile(const std::string& path, std::ostream& out, std::ostream& err) {
-  std::string text;
-  if (!ReadBytes(path, &text)) {
-    err << "cannot read script " << path << "\n";
+  std::string text, why;
+  if (!ReadBytes(path, &text, &why)) {
+    err << "cannot read script " << path << ": " << why << "\n";
     return 1;
   }
   const fs::path p(path);

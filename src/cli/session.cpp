@@ -1,15 +1,14 @@
 #include "session.h"
 
 #include <filesystem>
-#include <fstream>
 #include <iterator>
-#include <sstream>
 
 #include "model/arith.h"
 #include "model/engine_vars.h"
 #include "model/game_state.h"
 #include "model/reset.h"
 #include "model/rnd.h"
+#include "platform/file_io.h"
 
 namespace mf::cli {
 
@@ -23,21 +22,25 @@ void StartFresh(std::uint32_t seed) {
   setup();
 }
 
-bool ReadBytes(const std::string& path, std::string* bytes) {
-  std::ifstream in(path, std::ios::binary);
-  if (!in) return false;
-  std::ostringstream all;
-  all << in.rdbuf();
-  *bytes = all.str();
-  return true;
+bool ReadBytes(const std::string& path, std::string* bytes, std::string* why) {
+  std::string scratch;
+  return ReadWholeFile(path, bytes, why != nullptr ? why : &scratch);
 }
 
-bool WriteBytes(const std::string& path, const std::string& bytes) {
-  std::ofstream out(path, std::ios::binary | std::ios::trunc);
-  if (!out) return false;
-  out.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
-  out.flush();
-  return static_cast<bool>(out);
+bool WriteBytes(const std::string& path, const std::string& bytes, std::string* why) {
+  return ReplaceFileAtomically(path, bytes, why);
+}
+
+bool MapSizeWords(const std::string& w, const std::string& h, std::string* why) {
+  auto whole = [](const std::string& s) {
+    if (s.empty() || s.size() > 9) return false;
+    for (char c : s)
+      if (c < '0' || c > '9') return false;
+    return true;
+  };
+  if (whole(w) && whole(h)) return true;
+  *why = "\"" + w + " " + h + "\" is not a map size (two whole numbers, width and height)";
+  return false;
 }
 
 bool LooksScrambled(const std::string& bytes) {

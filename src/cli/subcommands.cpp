@@ -66,9 +66,9 @@ struct Printing {
 // Reads a scenario file into freshly cleared tables exactly as it stands:
 // no repairs, and the file on disk is left as it was.
 bool LoadForListing(const std::string& path, std::string* why) {
-  std::string bytes;
-  if (!fs::is_regular_file(path) || !ReadBytes(path, &bytes)) {
-    *why = "cannot read " + path;
+  std::string bytes, reason;
+  if (!ReadBytes(path, &bytes, &reason)) {
+    *why = "cannot read " + path + ": " + reason;
     return false;
   }
   if (LooksScrambled(bytes)) bytes = FlipBytes(bytes);
@@ -107,6 +107,10 @@ int NewCommand(const Args& args, std::ostream& out, std::ostream& err) {
   }
   if (pos.size() != 2 || output.empty()) {
     err << "usage: marrowfield-cli new W H -o FILE\n";
+    return 1;
+  }
+  if (!MapSizeWords(pos[0], pos[1], &why)) {
+    err << "new: " << why << "\n";
     return 1;
   }
   Printing printing(out);
@@ -162,8 +166,8 @@ int ExportCommand(const Args& args, std::ostream& out, std::ostream& err) {
     err << "export: " << why << "\n";
     return 1;
   }
-  if (!WriteBytes(output, ExportJson())) {
-    err << "export: cannot write " << output << "\n";
+  if (!WriteBytes(output, ExportJson(), &why)) {
+    err << "export: cannot write " << output << ": " << why << "\n";
     return 1;
   }
   return 0;
@@ -181,8 +185,8 @@ int ImportJsonCommand(const Args& args, std::ostream& out, std::ostream& err) {
     return 1;
   }
   std::string json;
-  if (!ReadBytes(pos[0], &json)) {
-    err << "import: cannot read " << pos[0] << "\n";
+  if (!ReadBytes(pos[0], &json, &why)) {
+    err << "import: cannot read " << pos[0] << ": " << why << "\n";
     return 1;
   }
   Printing printing(out);
@@ -206,9 +210,9 @@ int ScrambleCommand(const Args& args, bool scramble, std::ostream& out, std::ost
     return 1;
   }
   const std::string& path = args[0];
-  std::string bytes;
-  if (!fs::is_regular_file(path) || !ReadBytes(path, &bytes)) {
-    err << cmd << ": cannot read " << path << "\n";
+  std::string bytes, why;
+  if (!ReadBytes(path, &bytes, &why)) {
+    err << cmd << ": cannot read " << path << ": " << why << "\n";
     return 1;
   }
   // The state is decided as a load decides it, by the first number.

@@ -8,8 +8,8 @@
 #include <QPushButton>
 
 #include "app_fixture.h"
-#include "editor/status_dialog.h"
-#include "editor/type_info_dialog.h"
+#include "view/status_dialog.h"
+#include "engine/type_info_dialog.h"
 #include "engine/supply.h"
 #include "model/game_state.h"
 #include "support/core_test.h"

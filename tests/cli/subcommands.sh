@@ -121,7 +121,32 @@ printf 'new 12 10\nexpect Game.MapW 13\n' > failing.mfs
 if "$cli" run failing.mfs > out.txt 2> err.txt; then fail "a failing script exited 0"; fi
 [ "$(cat err.txt)" = 'failing.mfs:2: expect Game.MapW: expected "13", got "12"' ] || fail "wrong failure line: $(cat err.txt)"
 if "$cli" run missing.mfs 2> err.txt; then fail "a missing script exited 0"; fi
-[ "$(cat err.txt)" = "cannot read script missing.mfs" ] || fail "wrong message: $(cat err.txt)"
+[ "$(cat err.txt)" = "cannot read script missing.mfs: it does not exist" ] || fail "wrong message: $(cat err.txt)"
+# Folders and devices are refused with a clear line, never read as a script,
+# a JSON scenario or a content source; and nothing is written for them.
+mkdir -p afolder
+refused() {  # refused EXPECTED-ERROR COMMAND...
+  want=$1
+  shift
+  if "$@" > out.txt 2> err.txt; then fail "$* exited 0"; fi
+  [ "$(cat err.txt)" = "$want" ] || fail "$*: wrong message: $(cat err.txt)"
+}
+refused "cannot read script afolder: it is a folder" "$cli" run afolder
+refused "cannot read script /dev/zero: it is not a regular file" "$cli" run /dev/zero
+refused "cannot read script /dev/null: it is not a regular file" "$cli" run /dev/null
+refused "import: cannot read afolder: it is a folder" "$cli" import afolder -o x.mf1
+refused "import: cannot read /dev/zero: it is not a regular file" "$cli" import /dev/zero -o x.mf1
+refused "dump: cannot read afolder: it is a folder" "$cli" dump afolder
+refused "scramble: cannot read /dev/zero: it is not a regular file" "$cli" scramble /dev/zero
+refused 'new: "abc def" is not a map size (two whole numbers, width and height)' "$cli" new abc def -o x.mf1
+printf 'afolder: cannot read the file: it is a folder\ncompile: afolder: 1 fault\n' > want.txt
+if "$cli" compile afolder -o x.mf1 > out.txt 2> err.txt; then fail "compile of a folder exited 0"; fi
+cmp -s err.txt want.txt || fail "compile of a folder: wrong message: $(cat err.txt)"
+printf 'include afolder\n' > inc.txt
+printf 'afolder: cannot read the file: it is a folder\ncompile: inc.txt: 1 fault\n' > want.txt
+if "$cli" compile inc.txt -o x.mf1 > out.txt 2> err.txt; then fail "an include of a folder exited 0"; fi
+cmp -s err.txt want.txt || fail "include of a folder: wrong message: $(cat err.txt)"
+[ ! -e x.mf1 ] || fail "a refused command wrote its output"
 if "$cli" frobnicate 2> err.txt; then fail "an unknown command exited 0"; fi
 [ "$(cat err.txt)" = "unknown command: frobnicate" ] || fail "wrong message: $(cat err.txt)"
 echo "subcommands: ok"

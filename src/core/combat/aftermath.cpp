@@ -166,13 +166,13 @@ void LoseStock(const Engagement& e) {
     long long m = Int(pool.StockQty[k] * 0.4);
     if (m == 0 && static_cast<double>(Rnd()) <= 0.4) m = 1;
     if (m <= 0) continue;
-    pool.StockQty[k] -= 1;
+    pool.StockQty[k] = AddSat(pool.StockQty[k], -1);
     if (ValidType(static_cast<int>(type))) {
       const long long index = Type[type].Class + 4LL * Type[type].Theater;
       if (index >= 1 && index <= kLossClasses) {
         DefenderLost[index] += static_cast<Long>(m);
-        if (ValidRegime(static_cast<int>(killer))) Regime[killer].Kills[index] += static_cast<Long>(m);
-        Regime[regime].Losses[index] += static_cast<Long>(m);
+        if (ValidRegime(static_cast<int>(killer))) Regime[killer].Kills[index] = AddSat(Regime[killer].Kills[index], m);
+        Regime[regime].Losses[index] = AddSat(Regime[regime].Losses[index], m);
       }
     }
     const std::string name = ValidType(static_cast<int>(type)) ? Type[type].Name : std::string();

@@ -128,7 +128,7 @@ void AwardFame(int u) {
   if (r >= 1 && r <= 3) officer = own;
   else if (r >= 4 && r <= 5) officer = bossOfficer;
   else if (r == 6) officer = topOfficer;
-  if (officer >= 1 && officer <= kOfficerCap) Officer[officer].Fame += 1;
+  if (officer >= 1 && officer <= kOfficerCap) Officer[officer].Fame = AddSat(Officer[officer].Fame, 1);
 }
 
 }  // namespace
@@ -204,10 +204,10 @@ void ApplyLoss(int victim, int opponent, int kind, int cls, long long amount) {
     if (v.Regime == Game.CurRegime) {
       AttackerLost[index] += static_cast<Long>(amount);
       const int killer = RegimeOfOpponent(opponent);
-      if (ValidRegime(killer)) Regime[killer].Kills[index] += static_cast<Long>(amount);
+      if (ValidRegime(killer)) Regime[killer].Kills[index] = AddSat(Regime[killer].Kills[index], amount);
     } else {
       DefenderLost[index] += static_cast<Long>(amount);
-      if (ValidRegime(v.Regime)) Regime[v.Regime].Losses[index] += static_cast<Long>(amount);
+      if (ValidRegime(v.Regime)) Regime[v.Regime].Losses[index] = AddSat(Regime[v.Regime].Losses[index], amount);
     }
   }
 
@@ -284,7 +284,7 @@ void CheckCargo(int carrier) {
         AttackerLost[base + cls] += static_cast<Long>(lost[cls]);
       } else {
         DefenderLost[base + cls] += static_cast<Long>(lost[cls]);
-        if (ValidRegime(c.Regime)) Regime[c.Regime].Losses[base + cls] += static_cast<Long>(lost[cls]);
+        if (ValidRegime(c.Regime)) Regime[c.Regime].Losses[base + cls] = AddSat(Regime[c.Regime].Losses[base + cls], lost[cls]);
       }
     }
   }

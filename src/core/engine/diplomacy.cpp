@@ -47,7 +47,7 @@ void DipChangeRelation(int speaker, int other) {
     mine.Relation = 1;
     theirs.Relation = 1;
   }
-  Regime[speaker].PP -= mine.Cost;
+  Regime[speaker].PP = AddSat(Regime[speaker].PP, -static_cast<std::int64_t>(mine.Cost));
   mine.Cost = Doubled(mine.Cost);
   theirs.Cost = Doubled(theirs.Cost);
   mine.LastTurn = Game.Turn;

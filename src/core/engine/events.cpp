@@ -7,12 +7,12 @@
 
 #include "engine/event_dialog.h"
 #include "model/arith.h"
+#include "model/counter_pic.h"
 #include "model/game_state.h"
 #include "model/hex_geometry.h"
 #include "model/rnd.h"
 #include "orders/new_units.h"
 #include "platform/platform.h"
-#include "view/counter.h"
 
 namespace mf {
 namespace {
@@ -30,15 +30,8 @@ int RegimeOf(long r) {
 
 bool ValidBookVar(long b) { return b >= 1 && b <= kBookVarCap; }
 
-// A long that has been worked out in 64 bits, held inside a long.
-Long Clamp(std::int64_t v) {
-  if (v > std::numeric_limits<Long>::max()) return std::numeric_limits<Long>::max();
-  if (v < std::numeric_limits<Long>::min()) return std::numeric_limits<Long>::min();
-  return static_cast<Long>(v);
-}
-
 void RaiseBookVar(long b, long by) {
-  if (ValidBookVar(b)) Game.BookVar[b] = Clamp(static_cast<std::int64_t>(Game.BookVar[b]) + by);
+  if (ValidBookVar(b)) Game.BookVar[b] = Clamp32(static_cast<std::int64_t>(Game.BookVar[b]) + by);
 }
 
 
@@ -289,7 +282,7 @@ bool TakeEffect(int e) {
       const int r = RegimeOf(ev.Data[1]);
       if (ev.Data[1] > 0 && r != 0) {
         const std::int64_t pp = static_cast<std::int64_t>(Regime[r].PP) + ev.Data[2];
-        Regime[r].PP = pp < 0 ? 0 : Clamp(pp);
+        Regime[r].PP = pp < 0 ? 0 : Clamp32(pp);
         UI.PanelDirty = true;
       }
       return true;

@@ -264,7 +264,7 @@ bool OfficerPoolDialog::Buy(std::string* why) {
     return true;
   }
   if (Regime[regime].PP > 0 && regime != 0) {
-    Regime[regime].PP -= 1;
+    Regime[regime].PP = AddSat(Regime[regime].PP, -1);
     MakeOfficer(0);
   } else {
     Say("Not enough PP to buy");

@@ -14,7 +14,6 @@ namespace {
 
 int MapW() { return std::clamp<int>(Game.MapW, 0, kMapCap); }
 int MapH() { return std::clamp<int>(Game.MapH, 0, kMapCap); }
-Long Clamp32(std::int64_t v) { return static_cast<Long>(std::clamp<std::int64_t>(v, INT32_MIN, INT32_MAX)); }
 
 // The stock slots in use: engine variable 616, held inside the table.
 int StockWidth() { return std::clamp<int>(EV(616), 0, kStockCap); }
@@ -33,10 +32,10 @@ void PoliticalPoints(const HexRec& h, int r, bool bonus) {
     if (num % den != 0 && ((num < 0) != (den < 0))) --whole;
     fraction = static_cast<double>(num - whole * den) / static_cast<double>(den);
   }
-  std::int64_t pp = Regime[r].PP;
-  if (whole >= 1) pp += whole;
-  if (Rnd() < fraction) pp += 1;
-  Regime[r].PP = Clamp32(pp);
+  std::int64_t gain = 0;
+  if (whole >= 1) gain += whole;
+  if (Rnd() < fraction) gain += 1;
+  Regime[r].PP = AddSat(Regime[r].PP, gain);
 }
 
 // Production points towards the town's type, and finished pieces into the
@@ -69,7 +68,7 @@ void UnitPieces(HexRec& h, int r, bool bonus, bool overseas, int shqNumber) {
   // rules count them into slot 0, which no list shows, and slot 0 of every
   // table stays empty here, so they are simply dropped.
   if (slot == 0) return;
-  stock.StockQty[slot] = Clamp32(static_cast<std::int64_t>(stock.StockQty[slot]) + n);
+  stock.StockQty[slot] = AddSat(stock.StockQty[slot], n);
 }
 
 }  // namespace

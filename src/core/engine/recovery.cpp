@@ -3,13 +3,13 @@
 #include <algorithm>
 #include <cstdint>
 
+#include "model/arith.h"
 #include "model/game_state.h"
 #include "orders/move_allowance.h"
 
 namespace mf {
 namespace {
 
-Long Clamp32(std::int64_t v) { return static_cast<Long>(std::clamp<std::int64_t>(v, INT32_MIN, INT32_MAX)); }
 
 // Largest whole number not above a / b; 0 for a zero divisor, as a rule set
 // with a divider of 0 gives no gain rather than a fault.

@@ -66,7 +66,7 @@ bool BuyResearch(int regime, int field, bool editing) {
       Plat().ShowMessage("You dont have Resneed2", "");
       return false;
     }
-    Regime[regime].PP -= f.Cost;
+    Regime[regime].PP = AddSat(Regime[regime].PP, -static_cast<std::int64_t>(f.Cost));
   }
   Regime[regime].Research[field] = 1;
   Plat().ShowMessage("You gained a research field", "");

@@ -154,6 +154,19 @@ void StartGameDialog::CancelButton() {
 }
 
 bool StartGameDialog::Act(const std::string& action, const std::string& value, std::string* why) {
+  // A setting the dialog cannot take cancels it there and then: a game is
+  // never started with its boxes half set.
+  if (!Apply(action, value, why)) {
+    if (action != "start" && action != "cancel") {
+      refused = true;
+      CancelButton();
+    }
+    return false;
+  }
+  return true;
+}
+
+bool StartGameDialog::Apply(const std::string& action, const std::string& value, std::string* why) {
   bool on = false;
   if (action == "fog" || action == "exploration" || action == "pbem" || action == "passwords" ||
       action == "aibonus") {

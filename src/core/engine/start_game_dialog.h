@@ -51,7 +51,7 @@ class StartGameDialog : public HumbleDialog {
   // ---- State --------------------------------------------------------------
   bool open = false;
   bool started = false;     // closed by Start with every check passed
-  bool refused = false;     // the last press of Start was refused
+  bool refused = false;     // the last press of Start, or a setting, was refused
   std::string refusal;      // its message
 
   // ---- The player's actions -------------------------------------------------
@@ -83,6 +83,7 @@ class StartGameDialog : public HumbleDialog {
   std::string DefaultAction() const override { return refused ? "cancel" : "start"; }
 
  private:
+  bool Apply(const std::string& action, const std::string& value, std::string* why);
   void Mirror();
 };
 

@@ -16,7 +16,6 @@ namespace {
 int MapW() { return std::clamp<int>(Game.MapW, 0, kMapCap); }
 int MapH() { return std::clamp<int>(Game.MapH, 0, kMapCap); }
 
-Long Clamp32(std::int64_t v) { return static_cast<Long>(std::clamp<std::int64_t>(v, INT32_MIN, INT32_MAX)); }
 
 // Largest whole number not above a / b, for a positive b.
 std::int64_t FloorDiv(std::int64_t a, std::int64_t b) {

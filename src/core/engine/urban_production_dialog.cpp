@@ -2,9 +2,9 @@
 
 #include <algorithm>
 
-#include "editor/type_info_dialog.h"
 #include "engine/production.h"
 #include "engine/research.h"
+#include "engine/type_info_dialog.h"
 #include "model/arith.h"
 #include "model/game_state.h"
 #include "model/hex_geometry.h"

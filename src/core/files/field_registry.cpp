@@ -16,6 +16,7 @@
 #include <type_traits>
 #include <utility>
 
+#include "files/scenario_schema.h"
 #include "model/arith.h"
 #include "model/game_state.h"
 
@@ -388,7 +389,8 @@ bool CheckIndices(const std::string& name, const std::string& what, int ndims, c
 }
 
 // Finds the field a name points at, with all indices checked.
-bool Resolve(const std::string& name, bool forWrite, const FieldDef** field, Idx* idx, std::string* why) {
+bool Resolve(const std::string& name, bool forWrite, const FieldDef** field, Idx* idx, std::string* why,
+             const RecordDef** record = nullptr) {
   ParsedName p;
   if (!ParseName(name, &p, why)) return false;
   const RecordDef* rec = nullptr;
@@ -421,6 +423,7 @@ bool Resolve(const std::string& name, bool forWrite, const FieldDef** field, Idx
     idx->f[d] = p.fieldIdx[d];
   }
   *field = f;
+  if (record != nullptr) *record = rec;
   return true;
 }
 
@@ -430,10 +433,29 @@ std::string Lower(std::string s) {
   return s;
 }
 
-// A whole number from a value text, taken by Val and truncated; refused when
-// it does not fit the field's width.
+// Whether a value text is a number and nothing else: blanks, a sign, digits,
+// a decimal fraction. "1e10", "12abc" and "" are not.
+bool IsPlainNumber(const std::string& value) {
+  const std::string t = Trim(value);
+  std::size_t i = 0;
+  if (i < t.size() && (t[i] == '-' || t[i] == '+')) ++i;
+  bool digits = false;
+  while (i < t.size() && t[i] >= '0' && t[i] <= '9') digits = (++i, true);
+  if (i < t.size() && t[i] == '.') {
+    ++i;
+    while (i < t.size() && t[i] >= '0' && t[i] <= '9') digits = (++i, true);
+  }
+  return digits && i == t.size();
+}
+
+// A whole number from a value text, truncated; refused when the text is not
+// a plain number or does not fit the field's width.
 bool NumberFor(const std::string& name, const std::string& value, double lo, double hi, const char* width,
                std::int64_t* out, std::string* why) {
+  if (!IsPlainNumber(value)) {
+    *why = Quoted(name) + ": value \"" + value + "\" is not a number";
+    return false;
+  }
   const double v = std::trunc(Val(value));
   if (v < lo || v > hi) {
     *why = Quoted(name) + ": value " + Trim(value) + " does not fit a " + width + " field";
@@ -483,20 +505,34 @@ bool SetField(const std::string& name, const std::string& value, std::string* wh
   std::string scratch;
   if (!why) why = &scratch;
   const FieldDef* f = nullptr;
+  const RecordDef* rec = nullptr;
   Idx idx;
-  if (!Resolve(name, true, &f, &idx, why)) return false;
+  if (!Resolve(name, true, &f, &idx, why, &rec)) return false;
   void* p = f->at(idx);
   std::int64_t n = 0;
+  // A saved field takes only what a load of the file would keep as it is.
+  auto inFileRange = [&](std::int64_t v) {
+    FieldRec fr{};
+    if (!FieldRecOf(rec->name, &fr)) return true;
+    const Check c = SchemaCheckOf(fr, fr == FieldRec::kEngineVar ? std::to_string(idx.r[0]) : f->name);
+    if (CheckAccepts(static_cast<Long>(v), c)) return true;
+    *why = Quoted(name) + ": value " + Trim(value) + " is outside what a scenario file holds there" +
+           (c.mode == Check::kZeroIs999 ? " (0 or more)"
+                                        : " (" + std::to_string(c.lo) + ".." + std::to_string(c.hi) + ")");
+    return false;
+  };
   switch (f->kind) {
     case Kind::kLong:
       if (!NumberFor(name, value, std::numeric_limits<Long>::min(), std::numeric_limits<Long>::max(), "long", &n,
-                     why))
+                     why) ||
+          !inFileRange(n))
         return false;
       *static_cast<Long*>(p) = static_cast<Long>(n);
       break;
     case Kind::kShort:
       if (!NumberFor(name, value, std::numeric_limits<Short>::min(), std::numeric_limits<Short>::max(), "short",
-                     &n, why))
+                     &n, why) ||
+          !inFileRange(n))
         return false;
       *static_cast<Short*>(p) = static_cast<Short>(n);
       break;

@@ -21,6 +21,7 @@
 #include <cstdint>
 #include <limits>
 #include <nlohmann/json.hpp>
+#include <set>
 
 #include "files/scenario_schema.h"
 #include "model/arith.h"
@@ -96,32 +97,27 @@ class ExportVisitor {
   bool first_ = true;
 };
 
-mf::Long ClampToLong(double d) {
-  if (!std::isfinite(d)) return 0;
-  if (d >= static_cast<double>(std::numeric_limits<mf::Long>::max())) return std::numeric_limits<mf::Long>::max();
-  if (d <= static_cast<double>(std::numeric_limits<mf::Long>::min())) return std::numeric_limits<mf::Long>::min();
-  return static_cast<mf::Long>(CInt(d));
-}
-
 // Fills the tables from the "fields" object; a name that is missing reads as
-// 0 or empty, like a field beyond the end of a short file.
+// 0 or empty, like a field beyond the end of a short file. A value of the
+// wrong kind is refused with its path, and so (after the walk) is a name
+// that no field of a scenario with these counts has.
 class ImportVisitor {
  public:
   explicit ImportVisitor(const json& fields) : fields_(fields) {}
+
+  std::string error;  // the first refusal, "" when none
 
   mf::Long Long(const FieldName& n, mf::Long& ref, Check c = {}) {
     mf::Long value = 0;
     // JSON written by hand may leave out the version; it means the current layout.
     if (n.role == FieldRole::kFileVersion && Find(n) == nullptr) value = kFileVersion;
-    else value = Number(n);
+    else value = Number(n, std::numeric_limits<mf::Long>::min(), std::numeric_limits<mf::Long>::max(), "long");
     value = ApplyCheck(value, c);
     ref = value;
     return value;
   }
   mf::Long Short(const FieldName& n, mf::Short& ref, Check c = {}) {
-    mf::Long value = Number(n);
-    if (value > std::numeric_limits<mf::Short>::max()) value = std::numeric_limits<mf::Short>::max();
-    if (value < std::numeric_limits<mf::Short>::min()) value = std::numeric_limits<mf::Short>::min();
+    mf::Long value = Number(n, std::numeric_limits<mf::Short>::min(), std::numeric_limits<mf::Short>::max(), "short");
     value = ApplyCheck(value, c);
     ref = static_cast<mf::Short>(value);
     return value;
@@ -131,8 +127,7 @@ class ImportVisitor {
     bool on = false;
     if (j != nullptr) {
       if (j->is_boolean()) on = j->get<bool>();
-      else if (j->is_number()) on = j->get<double>() != 0;
-      else if (j->is_string()) on = j->get_ref<const std::string&>() == "True";
+      else Refuse(n, "true or false", *j);
     }
     ref = on ? kTrue : kFalse;
     return ref;
@@ -143,41 +138,85 @@ class ImportVisitor {
   bool HeadHasFog(mf::Long v) { return v >= 10; }
   bool Proceed(mf::Long) { return true; }
 
- private:
-  const json* Find(const FieldName& n) const {
-    const auto it = fields_.find(n.Format());
-    return it == fields_.end() ? nullptr : &*it;
+  // The first name of the object that the walk never asked for.
+  std::string FirstUnknownName() const {
+    if (found_.size() == fields_.size()) return {};
+    for (const auto& [name, value] : fields_.items())
+      if (found_.count(name) == 0) return name;
+    return {};
   }
-  mf::Long Number(const FieldName& n) const {
+
+ private:
+  const json* Find(const FieldName& n) {
+    std::string name = n.Format();
+    const auto it = fields_.find(name);
+    if (it == fields_.end()) return nullptr;
+    found_.insert(std::move(name));
+    return &*it;
+  }
+  static const char* KindOf(const json& j) {
+    if (j.is_string()) return "a text";
+    if (j.is_boolean()) return "true or false";
+    if (j.is_number()) return "a number";
+    if (j.is_null()) return "null";
+    if (j.is_array()) return "a list";
+    return "an object";
+  }
+  void Refuse(const FieldName& n, const char* wanted, const json& j) {
+    if (!error.empty()) return;
+    error = "fields.\"" + n.Format() + "\": expected " + wanted + ", found " + KindOf(j);
+  }
+  mf::Long Number(const FieldName& n, std::int64_t lo, std::int64_t hi, const char* width) {
     const json* j = Find(n);
     if (j == nullptr) return 0;
-    if (j->is_number_integer()) {
-      if (j->is_number_unsigned()) {
-        const auto u = j->get<std::uint64_t>();
-        return u > static_cast<std::uint64_t>(std::numeric_limits<mf::Long>::max())
-                   ? std::numeric_limits<mf::Long>::max()
-                   : static_cast<mf::Long>(u);
-      }
-      const auto i = j->get<std::int64_t>();
-      if (i > std::numeric_limits<mf::Long>::max()) return std::numeric_limits<mf::Long>::max();
-      if (i < std::numeric_limits<mf::Long>::min()) return std::numeric_limits<mf::Long>::min();
-      return static_cast<mf::Long>(i);
+    if (!j->is_number()) {
+      Refuse(n, "a number", *j);
+      return 0;
     }
-    if (j->is_number_float()) return ClampToLong(j->get<double>());
-    if (j->is_boolean()) return j->get<bool>() ? kTrue : kFalse;
-    if (j->is_string()) return ClampToLong(Val(j->get_ref<const std::string&>()));
-    return 0;
+    bool fits = true;
+    mf::Long value = 0;
+    if (j->is_number_unsigned()) {
+      const auto u = j->get<std::uint64_t>();
+      fits = u <= static_cast<std::uint64_t>(hi);
+      if (fits) value = static_cast<mf::Long>(u);
+    } else if (j->is_number_integer()) {
+      const auto i = j->get<std::int64_t>();
+      fits = i >= lo && i <= hi;
+      if (fits) value = static_cast<mf::Long>(i);
+    } else {
+      const std::int64_t i = CInt(j->get<double>());
+      fits = i >= lo && i <= hi;
+      if (fits) value = static_cast<mf::Long>(i);
+    }
+    if (!fits && error.empty())
+      error = "fields.\"" + n.Format() + "\": " + j->dump() + " does not fit a " + width + " field";
+    return value;
   }
-  std::string TextOf(const FieldName& n) const {
+  std::string TextOf(const FieldName& n) {
     const json* j = Find(n);
     if (j == nullptr) return {};
     if (j->is_string()) return j->get<std::string>();
-    if (j->is_number_integer()) return j->dump();
+    Refuse(n, "a text", *j);
     return {};
   }
 
   const json& fields_;
+  std::set<std::string> found_;
 };
+
+// Line and column (from 1) of a byte offset of a text.
+std::string LineAndColumn(const std::string& text, std::size_t offset) {
+  std::size_t line = 1, column = 1;
+  for (std::size_t i = 0; i < offset && i < text.size(); ++i) {
+    if (text[i] == '\n') {
+      ++line;
+      column = 1;
+    } else if ((static_cast<unsigned char>(text[i]) & 0xC0) != 0x80) {
+      ++column;  // a character, not a byte of one
+    }
+  }
+  return "line " + std::to_string(line) + ", column " + std::to_string(column);
+}
 
 }  // namespace
 
@@ -196,12 +235,21 @@ std::string ExportJson() {
 }
 
 bool ImportJson(const std::string& text, std::string* why) {
-  const json doc = json::parse(text, nullptr, false);
   auto fail = [why](const std::string& reason) {
     if (why != nullptr) *why = reason;
     return false;
   };
-  if (doc.is_discarded()) return fail("not valid JSON");
+  json doc;
+  try {
+    doc = json::parse(text);
+  } catch (const json::parse_error& e) {
+    // The library's own words after its position, without its tag.
+    std::string detail = e.what();
+    const std::size_t at = detail.find(": ", detail.find("parse error"));
+    detail = at == std::string::npos ? std::string("syntax error") : detail.substr(at + 2);
+    // e.byte counts from 1 and names the byte after the last one read.
+    return fail("not valid JSON: " + LineAndColumn(text, e.byte > 0 ? e.byte - 1 : 0) + ": " + detail);
+  }
   if (!doc.is_object()) return fail("not a JSON object");
   const auto format = doc.find("format");
   if (format == doc.end() || !format->is_string() || format->get<std::string>() != kFormatName) {
@@ -211,6 +259,10 @@ bool ImportJson(const std::string& text, std::string* why) {
   if (fields == doc.end() || !fields->is_object()) return fail("no \"fields\" object");
   ImportVisitor v(*fields);
   WalkScenario(v);
+  if (!v.error.empty()) return fail(v.error);
+  const std::string unknown = v.FirstUnknownName();
+  if (!unknown.empty())
+    return fail("fields.\"" + unknown + "\": no such field in a scenario with these counts and this map");
   return true;
 }
 

@@ -1,6 +1,8 @@
 #include "files/scenario_schema.h"
 
 #include <charconv>
+#include <map>
+#include <utility>
 
 #include "model/arith.h"
 
@@ -62,7 +64,56 @@ class ListVisitor {
   void Add(const FieldName& n, std::string value) { out.push_back({n.Format(), std::move(value), n.repeat}); }
 };
 
+// Collects the reader's check of every field by record and field name. Every
+// count it is asked for is 1 and the version the newest, so that one short
+// walk reaches every field the file can hold.
+class CheckCollector {
+ public:
+  std::map<std::pair<FieldRec, std::string>, Check> checks;
+
+  mf::Long Long(const FieldName& n, mf::Long&, Check c = {}) { return Add(n, c); }
+  mf::Long Short(const FieldName& n, mf::Short&, Check c = {}) { return Add(n, c); }
+  mf::Long Bool(const FieldName&, mf::Long&) { return 1; }
+  void Text(const FieldName&, std::string&) {}
+  void LongText(const FieldName&, std::string&) {}
+  void Assign(const FieldName&, mf::Long&, mf::Long) {}
+  bool HeadHasFog(mf::Long) { return true; }
+  bool Proceed(mf::Long) { return true; }
+
+ private:
+  mf::Long Add(const FieldName& n, Check c) {
+    const std::string field = n.rec == FieldRec::kEngineVar ? std::to_string(n.i) : std::string(n.field);
+    checks.emplace(std::make_pair(n.rec, field), c);
+    return n.role == FieldRole::kFileVersion ? kFileVersion : 1;
+  }
+};
+
+const std::map<std::pair<FieldRec, std::string>, Check>& AllChecks() {
+  static const auto checks = [] {
+    CheckCollector c;
+    WalkScenario(c);
+    return std::move(c.checks);
+  }();
+  return checks;
+}
+
 }  // namespace
+
+Check SchemaCheckOf(FieldRec rec, const std::string& field) {
+  const auto& checks = AllChecks();
+  const auto it = checks.find({rec, field});
+  return it == checks.end() ? Check{} : it->second;
+}
+
+bool FieldRecOf(const std::string& name, FieldRec* rec) {
+  for (int r = 0; r <= static_cast<int>(FieldRec::kEngineVar); ++r) {
+    if (name == RecName(static_cast<FieldRec>(r))) {
+      *rec = static_cast<FieldRec>(r);
+      return true;
+    }
+  }
+  return false;
+}
 
 std::string FieldName::Format() const {
   std::string s;

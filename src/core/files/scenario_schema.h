@@ -61,8 +61,8 @@ struct Check {
   enum Mode : std::uint8_t {
     kNone,
     kIndex,      // outside lo..hi reads as 0
-    kCount,      // clamped into lo..hi (table counts, map size, stock width)
-    kZeroIs999,  // a stored 0 reads as 999 (Dip.Cost)
+    kCount,      // clamped into lo..hi (table counts, map size, stock width, percentages)
+    kZeroIs999,  // a stored 0, or a price below it, reads as 999 (Dip.Cost)
   };
   Mode mode = kNone;
   Long lo = 0;
@@ -70,6 +70,7 @@ struct Check {
 
   static constexpr Check Index(Long lo, Long hi) { return {kIndex, lo, hi}; }
   static constexpr Check Count(Long hi) { return {kCount, 0, hi}; }
+  static constexpr Check Clamp(Long lo, Long hi) { return {kCount, lo, hi}; }
   static constexpr Check ZeroIs999() { return {kZeroIs999, 0, 0}; }
   static constexpr Check NotNegative() { return {kIndex, 0, std::numeric_limits<Long>::max()}; }
 };
@@ -82,12 +83,36 @@ inline Long ApplyCheck(Long value, Check c) {
     case Check::kCount:
       return value < c.lo ? c.lo : (value > c.hi ? c.hi : value);
     case Check::kZeroIs999:
-      return value == 0 ? 999 : value;
+      // A price below nothing would pay a regime for changing sides.
+      return value <= 0 ? 999 : value;
     case Check::kNone:
       break;
   }
   return value;
 }
+
+// Whether a value given by a person (a script, a prompt, an editor) lies in
+// what the reader would keep as it is; a reader repairs what this refuses.
+inline bool CheckAccepts(Long value, Check c) {
+  switch (c.mode) {
+    case Check::kIndex:
+    case Check::kCount:
+      return value >= c.lo && value <= c.hi;
+    case Check::kZeroIs999:
+      return value >= 0;
+    case Check::kNone:
+      break;
+  }
+  return true;
+}
+
+// The reader's check of a saved field by its record and field name
+// ("Unit", "Readiness"; engine variables as "EngineVar", "616"); no check
+// for a field the file does not hold.
+Check SchemaCheckOf(FieldRec rec, const std::string& field);
+// The record of a registry name ("Hex", "Dip", ...); false when the file
+// holds no such record.
+bool FieldRecOf(const std::string& name, FieldRec* rec);
 
 // A number as a save writes it: the current version, the raised stock width,
 // counts inside their tables.
@@ -135,18 +160,18 @@ void WalkScenario(V& v) {
   // fog switch, and the small number stays as the version so that every
   // later test treats the file as oldest.
   if (v.HeadHasFog(version)) {
-    v.Long(G("FogOfWar"), Game.FogOfWar);
+    v.Long(G("FogOfWar"), Game.FogOfWar, Check::Index(0, 1));
   } else {
     v.Assign(G("FogOfWar"), Game.FogOfWar, version);
   }
   if (!v.Proceed(version)) return;
-  v.Long(G("FogOfExploration"), Game.FogOfExploration);
+  v.Long(G("FogOfExploration"), Game.FogOfExploration, Check::Index(0, 1));
   v.Long(G("UsePasswords"), Game.UsePasswords);
   v.Long(G("GameEndPop"), Game.GameEndPop);
   v.Long(G("GameWinner"), Game.GameWinner, Check::Index(0, kRegimeCap));
   v.Long(G("WinnerPop"), Game.WinnerPop);
   v.Long(G("CurPop"), Game.CurPop);
-  v.Long(G("Turn"), Game.Turn);
+  v.Long(G("Turn"), Game.Turn, Check::NotNegative());
   v.Long(G("CurRegime"), Game.CurRegime, Check::Index(0, kRegimeCap));
   const int mapW = v.Long(G("MapW"), Game.MapW, Check::Count(kMapCap));
   const int mapH = v.Long(G("MapH"), Game.MapH, Check::Count(kMapCap));
@@ -215,14 +240,14 @@ void WalkScenario(V& v) {
     for (int y = 1; y <= mapH; ++y) {
       HexRec& h = Hex[x][y];
       auto n = [x, y](const char* f, int k = 0) { return R2(R::kHex, x, y, f, k); };
-      v.Long(n("Pop"), h.Pop);
-      v.Long(n("Land"), h.Land);
+      v.Long(n("Pop"), h.Pop, Check::NotNegative());
+      v.Long(n("Land"), h.Land, Check::Index(0, kMountain));
       v.Long(n("People"), h.People, Check::Index(0, kPeopleCap));
       v.Text(n("UrbanName"), h.UrbanName);
       for (int s = 1; s <= kStackSlots; ++s) v.Long(n("Unit", s), h.Unit[s], Check::Index(0, kUnitCap));
       v.Long(n("Owner"), h.Owner, Check::Index(0, kRegimeCap));
       v.Long(n("Prod"), h.Prod, Check::Index(-1, kTypeCap));
-      v.Long(n("ProdPts"), h.ProdPts);
+      v.Long(n("ProdPts"), h.ProdPts, Check::NotNegative());
       v.Long(n("ProdSHQ"), h.ProdSHQ, Check::Index(0, kUnitCap));
       v.Short(n("Vis"), h.Vis);
       if (version >= 100) {
@@ -233,12 +258,12 @@ void WalkScenario(V& v) {
           v.Short(n("Seen", r), r <= kSightRegimes ? h.Seen[r] : spare);
         }
       }
-      v.Long(n("Road"), h.Road);
+      v.Long(n("Road"), h.Road, Check::Index(0, 1));
       for (int side = 1; side <= kHexSides; ++side) {
-        v.Short(n("River", side), h.River[side]);
-        if (version >= 109) v.Long(n("Entrench", side), h.Entrench[side]);
+        v.Short(n("River", side), h.River[side], Check::Index(0, 1));
+        if (version >= 109) v.Long(n("Entrench", side), h.Entrench[side], Check::Clamp(0, 3));
       }
-      v.Short(n("Damage"), h.Damage);
+      v.Short(n("Damage"), h.Damage, Check::Clamp(0, 100));
     }
   }
 
@@ -270,7 +295,7 @@ void WalkScenario(V& v) {
     v.Long(n("Sea"), of.Sea);
     v.Long(n("Air"), of.Air);
     v.Long(n("Fame"), of.Fame);
-    v.Long(n("Retreat"), of.Retreat);
+    v.Long(n("Retreat"), of.Retreat, Check::Clamp(0, 100));
     v.Long(n("Spare"), of.Spare);
   }
 
@@ -287,7 +312,7 @@ void WalkScenario(V& v) {
     if (version >= 104) {
       for (int b = 1; b <= regimes; ++b) {
         DipRec& d = Dip[r][b];
-        v.Long(R2(R::kDip, r, b, "Relation"), d.Relation);
+        v.Long(R2(R::kDip, r, b, "Relation"), d.Relation, Check::Index(0, 1));
         v.Long(R2(R::kDip, r, b, "Cost"), d.Cost, Check::ZeroIs999());
         v.Long(R2(R::kDip, r, b, "LastTurn"), d.LastTurn);
         v.Long(R2(R::kDip, r, b, "Spare"), d.Spare);
@@ -306,13 +331,13 @@ void WalkScenario(V& v) {
     v.Long(n("HexSprite"), re.HexSprite);
     v.Text(n("Email"), re.Email);
     v.Long(n("OwnPeople"), re.OwnPeople, Check::Index(0, kPeopleCap));
-    for (int f = 1; f <= kResearchCap; ++f) v.Long(n("Research", f), re.Research[f]);
+    for (int f = 1; f <= kResearchCap; ++f) v.Long(n("Research", f), re.Research[f], Check::Index(0, 1));
     for (int b = 1; b <= kBadgeCap; ++b) v.Long(n("ThqBadgeUnit", b), re.ThqBadgeUnit[b], Check::Index(0, kUnitCap));
     for (int s = 1; s <= kShqCap; ++s) {
       ShqRec& sh = Shq[r][s];
       for (int k = 1; k <= stockWidth; ++k) {
         v.Long(R2(R::kShq, r, s, "StockType", k), sh.StockType[k], Check::Index(0, kTypeCap));
-        v.Long(R2(R::kShq, r, s, "StockQty", k), sh.StockQty[k]);
+        v.Long(R2(R::kShq, r, s, "StockQty", k), sh.StockQty[k], Check::NotNegative());
       }
       v.Long(R2(R::kShq, r, s, "Unit"), sh.Unit, Check::Index(0, kUnitCap));
       v.Long(R2(R::kShq, r, s, "Carry"), sh.Carry);
@@ -350,21 +375,21 @@ void WalkScenario(V& v) {
     v.Long(n("Thq"), un.Thq);
     v.Long(n("Boss"), un.Boss, Check::Index(0, kUnitCap));
     v.Long(n("InfType"), un.InfType, Check::Index(0, kTypeCap));
-    v.Long(n("InfQty"), un.InfQty);
+    v.Long(n("InfQty"), un.InfQty, Check::NotNegative());
     v.Long(n("MobType"), un.MobType, Check::Index(0, kTypeCap));
-    v.Long(n("MobQty"), un.MobQty);
+    v.Long(n("MobQty"), un.MobQty, Check::NotNegative());
     v.Long(n("ArtType"), un.ArtType, Check::Index(0, kTypeCap));
-    v.Long(n("ArtQty"), un.ArtQty);
+    v.Long(n("ArtQty"), un.ArtQty, Check::NotNegative());
     v.Long(n("ArmType"), un.ArmType, Check::Index(0, kTypeCap));
-    v.Long(n("ArmQty"), un.ArmQty);
+    v.Long(n("ArmQty"), un.ArmQty, Check::NotNegative());
     v.Long(n("Regime"), un.Regime, Check::Index(0, kRegimeCap));
-    v.Long(n("SupplyPct"), un.SupplyPct);
+    v.Long(n("SupplyPct"), un.SupplyPct, Check::NotNegative());
     v.Long(n("CounterPic"), un.CounterPic);
     v.Long(n("ThqBadge"), un.ThqBadge, Check::Index(0, kBadgeCap));
-    v.Long(n("Experience"), un.Experience);
+    v.Long(n("Experience"), un.Experience, Check::NotNegative());
     v.Long(n("MP"), un.MP);
-    v.Long(n("Readiness"), un.Readiness);
-    v.Long(n("Theater"), un.Theater);
+    v.Long(n("Readiness"), un.Readiness, Check::Clamp(0, 100));
+    v.Long(n("Theater"), un.Theater, Check::Index(0, kAirTheater));
     v.Long(n("Cargo"), un.Cargo, Check::Index(0, kUnitCap));
     v.Long(n("Officer"), un.Officer, Check::Index(0, kOfficerCap));
     v.Long(n("Front"), un.Front);
@@ -384,7 +409,7 @@ void WalkScenario(V& v) {
     ResearchRec& rs = Research[f];
     auto n = [f](const char* fl) { return R1(R::kResearch, f, fl); };
     v.Text(n("Name"), rs.Name);
-    v.Long(n("Cost"), rs.Cost);
+    v.Long(n("Cost"), rs.Cost, Check::NotNegative());
     v.Long(n("Need1"), rs.Need1, Check::Index(0, kResearchCap));
     v.Long(n("Need2"), rs.Need2, Check::Index(0, kResearchCap));
     if (version >= 100) {
@@ -400,7 +425,7 @@ void WalkScenario(V& v) {
     TypeRec& ty = Type[t];
     auto n = [t](const char* f, int k = 0) { return R1(R::kType, t, f, k); };
     v.Text(n("Name"), ty.Name);
-    const Long cls = v.Long(n("Class"), ty.Class);
+    const Long cls = v.Long(n("Class"), ty.Class, Check::Index(0, 4));
     Long frontsize = 0;
     for (int a = 1; a <= kTypeAttrs; ++a) {
       const Long value = v.Long(n("Attr", a), ty.Attr[a]);
@@ -408,12 +433,12 @@ void WalkScenario(V& v) {
     }
     v.Text(n("Text"), ty.Text);
     v.Long(n("Sprite"), ty.Sprite);
-    v.Long(n("Cost"), ty.Cost);
+    v.Long(n("Cost"), ty.Cost, Check::NotNegative());
     for (int p = 1; p <= peopleCount; ++p) {
       v.Short(n("Living", p), ty.Living[p]);
       v.Short(n("Owning", p), ty.Owning[p]);
     }
-    const Long theater = v.Long(n("Theater"), ty.Theater);
+    const Long theater = v.Long(n("Theater"), ty.Theater, Check::Index(0, kAirTheater));
     v.Long(n("Research"), ty.Research, Check::Index(0, kResearchCap));
     v.Long(n("Override"), ty.Override);
     // Land types of files older than the frontsize rule get the size of their class.

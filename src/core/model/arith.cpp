@@ -5,9 +5,39 @@
 
 namespace mf {
 
-std::int64_t Int(double x) { return static_cast<std::int64_t>(std::floor(x)); }
+namespace {
+
+// 2^63 as a double; every double below it in size converts to a 64-bit whole number.
+constexpr double kInt64Edge = 9223372036854775808.0;
+
+// NaN and values beyond the 64-bit range, or false when x converts as it is.
+bool OutOfRange(double x, std::int64_t* clamped) {
+  if (std::isnan(x)) {
+    *clamped = 0;
+    return true;
+  }
+  if (x >= kInt64Edge) {
+    *clamped = INT64_MAX;
+    return true;
+  }
+  if (x < -kInt64Edge) {
+    *clamped = INT64_MIN;
+    return true;
+  }
+  return false;
+}
+
+}  // namespace
+
+std::int64_t Int(double x) {
+  std::int64_t clamped = 0;
+  if (OutOfRange(x, &clamped)) return clamped;
+  return static_cast<std::int64_t>(std::floor(x));
+}
 
 std::int64_t CInt(double x) {
+  std::int64_t clamped = 0;
+  if (OutOfRange(x, &clamped)) return clamped;
   const double lower = std::floor(x);
   const double diff = x - lower;
   auto r = static_cast<std::int64_t>(lower);
@@ -15,6 +45,19 @@ std::int64_t CInt(double x) {
   if (diff < 0.5) return r;
   // Exactly half way: take the even neighbour.
   return (r % 2 == 0) ? r : r + 1;
+}
+
+std::int32_t Clamp32(std::int64_t v) {
+  if (v > INT32_MAX) return INT32_MAX;
+  if (v < INT32_MIN) return INT32_MIN;
+  return static_cast<std::int32_t>(v);
+}
+
+std::int32_t AddSat(std::int32_t total, std::int64_t amount) {
+  // Both fit in 64 bits with room to spare unless amount is near its own end.
+  if (amount > INT32_MAX) amount = static_cast<std::int64_t>(INT32_MAX) * 2;
+  if (amount < INT32_MIN) amount = static_cast<std::int64_t>(INT32_MIN) * 2;
+  return Clamp32(static_cast<std::int64_t>(total) + amount);
 }
 
 std::int64_t IDiv(std::int64_t a, std::int64_t b) {

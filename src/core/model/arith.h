@@ -9,10 +9,19 @@
 
 namespace mf {
 
-// Largest whole number not above x, also for negative x.
+// Largest whole number not above x, also for negative x. A value that is no
+// number (NaN) gives 0 and one beyond the 64-bit range its nearest end, so
+// that damaged data can never make a conversion undefined.
 std::int64_t Int(double x);
-// Nearest whole number, halves to the even neighbour (2.5 -> 2, 3.5 -> 4).
+// Nearest whole number, halves to the even neighbour (2.5 -> 2, 3.5 -> 4);
+// NaN and out-of-range values as for Int.
 std::int64_t CInt(double x);
+// A whole number held inside a 32-bit long: beyond its ends it stays at the end.
+std::int32_t Clamp32(std::int64_t v);
+// The one add of every total that grows in play (political points, fame,
+// kills and losses, stock quantities): it stops at the ends of a long
+// instead of wrapping round.
+std::int32_t AddSat(std::int32_t total, std::int64_t amount);
 // Whole division truncating towards zero; a zero divisor gives 0 instead of a trap.
 std::int64_t IDiv(std::int64_t a, std::int64_t b);
 // Remainder with the sign of the dividend; a zero divisor gives 0.

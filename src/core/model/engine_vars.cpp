@@ -235,7 +235,8 @@ void RepairEngineVarsAfterLoad(long fileVersion, bool forImport) {
     EngineVar[repair.index].Value = static_cast<Long>(value);
   }
   // Before version 111 the frontsize limit counted half as many points.
-  if (fileVersion < 111) EngineVar[538].Value = static_cast<Long>(EngineVar[538].Value * 2);
+  // Saturating: a damaged file may hold a size that would overflow when doubled.
+  if (fileVersion < 111) EngineVar[538].Value = AddSat(EngineVar[538].Value, EngineVar[538].Value);
 }
 
 std::vector<EngineVarLine> EngineVarList() {

@@ -2,11 +2,11 @@
 
 #include "engine/officers.h"
 #include "model/arith.h"
+#include "model/counter_pic.h"
 #include "model/game_state.h"
 #include "model/hex_geometry.h"
-#include "orders/order_state.h"
-#include "view/counter.h"
-#include "view/selection.h"
+#include "model/stack.h"
+#include "orders/order_buttons.h"
 
 namespace mf {
 namespace {
@@ -50,7 +50,7 @@ void Commission(int u, int slot, int kind) {
   Hex[UI.SelX][UI.SelY].Unit[slot] = u;
   MakeOfficer(u);
   Counter(u);
-  if (!Editing()) Regime[Unit[u].Regime].PP -= static_cast<Long>(CostOf(kind));
+  if (!Editing()) Regime[Unit[u].Regime].PP = AddSat(Regime[Unit[u].Regime].PP, -static_cast<std::int64_t>(CostOf(kind)));
   UI.SelCount = StackCount(static_cast<int>(UI.SelX), static_cast<int>(UI.SelY));
   UI.SelSlot = slot;
   UI.PanelDirty = true;

@@ -6,11 +6,11 @@
 
 #include "engine/supply_flood.h"
 #include "model/arith.h"
+#include "model/counter_pic.h"
 #include "model/game_state.h"
+#include "model/stack.h"
 #include "orders/flood.h"
-#include "orders/order_state.h"
-#include "view/counter.h"
-#include "view/selection.h"
+#include "orders/order_buttons.h"
 
 namespace mf {
 
@@ -329,7 +329,7 @@ void TransferDialog::CarryOut() {
       // A pool with every slot taken by other types cannot take these.
       if (slot == 0) continue;
       into->StockType[slot] = row.type;
-      into->StockQty[slot] += row.chosen;
+      into->StockQty[slot] = AddSat(into->StockQty[slot], row.chosen);
       moved[c] = true;
     }
   } else {

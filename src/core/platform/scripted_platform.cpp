@@ -2,8 +2,6 @@
 
 #include <cctype>
 
-#include "model/arith.h"
-
 namespace mf {
 namespace {
 std::string Shown(const std::string& title) { return title.empty() ? kProgramTitle : title; }

@@ -11,6 +11,7 @@
 #include <string>
 
 #include "model/game_state.h"
+#include "platform/paths.h"
 #include "support/core_test.h"
 
 namespace fs = std::filesystem;
@@ -49,6 +50,50 @@ TEST_F(ScriptRunnerTest, SetAndPrint) {
       << err.str();
   EXPECT_EQ(out.str(), "Hex[3,4].Owner = 2\nUnit[1].Name = Ærø Bataljon\nGame.MapW = 12\n");
   EXPECT_EQ(Hex[3][4].Owner, 2);
+}
+
+TEST_F(ScriptRunnerTest, AFieldNameMayHoldBlanksInsideItsBrackets) {
+  EXPECT_EQ(Run("new 12 10\n"
+                "set Unit[ 1 ].Readiness 40\n"
+                "print Unit[ 1 ].Readiness\n"
+                "expect Hex[ 3 , 4 ].Owner 0\n"),
+            0)
+      << err.str();
+  EXPECT_EQ(out.str(), "Unit[ 1 ].Readiness = 40\n");
+}
+
+TEST_F(ScriptRunnerTest, SetRefusesWhatIsNotAPlainNumber) {
+  EXPECT_EQ(Run("set Game.Turn 1e10\n"), 1);
+  EXPECT_EQ(err.str(), "t.mfs:1: \"Game.Turn\": value \"1e10\" is not a number\n");
+  EXPECT_EQ(Run("set Game.Turn 3000000000\n"), 1);
+  EXPECT_EQ(err.str(), "t.mfs:1: \"Game.Turn\": value 3000000000 does not fit a long field\n");
+  EXPECT_EQ(Run("set Dip[1,2].Cost -5\n"), 1);
+  EXPECT_EQ(err.str(),
+            "t.mfs:1: \"Dip[1,2].Cost\": value -5 is outside what a scenario file holds there (0 or more)\n");
+}
+
+TEST_F(ScriptRunnerTest, NewAndClearmapRefuseAMapSizeThatIsNoNumber) {
+  EXPECT_EQ(Run("new abc def\n"), 1);
+  EXPECT_EQ(err.str(), "t.mfs:1: new: \"abc def\" is not a map size (two whole numbers, width and height)\n");
+  EXPECT_EQ(Run("new 12 10\nclearmap 12x 10\n"), 1);
+  EXPECT_EQ(err.str(), "t.mfs:2: clearmap: \"12x 10\" is not a map size (two whole numbers, width and height)\n");
+  EXPECT_EQ(Game.MapW, 12);
+  // Sizes outside 10..100 are still the dialog's to bring into range.
+  EXPECT_EQ(Run("new 5 500\nexpect Game.MapW 10\nexpect Game.MapH 100\n"), 0) << err.str();
+}
+
+TEST_F(ScriptRunnerTest, AnEmptyProgramFolderIsACancelledChoice) {
+  const std::string before = ProgramDir();
+  const fs::path cwd = fs::current_path();
+  fs::current_path(tempDir);
+  const int rc = Run("programdir \"\"\nexpect-msg \"nothing\"\n");
+  fs::current_path(cwd);
+  // The run went on past programdir (and failed only at the expect-msg),
+  // and no scenarios folder was made in the current folder.
+  EXPECT_EQ(rc, 1);
+  EXPECT_EQ(err.str(), "t.mfs:2: expect-msg: no message \"nothing\" was shown\n");
+  EXPECT_FALSE(fs::exists(fs::path(tempDir) / "scenarios"));
+  EXPECT_EQ(ProgramDir(), before);
 }
 
 TEST_F(ScriptRunnerTest, AFailedExpectStopsTheScript) {
@@ -168,7 +213,7 @@ TEST_F(ScriptRunnerTest, ScriptFilesTakePathsFromTheirFolder) {
   EXPECT_TRUE(fs::exists(fs::path(tempDir) / "sub" / "here.mf1"));
 
   EXPECT_EQ(RunScriptFile((fs::path(tempDir) / "missing.mfs").string(), o, e), 1);
-  EXPECT_EQ(e.str(), "cannot read script " + (fs::path(tempDir) / "missing.mfs").string() + "\n");
+  EXPECT_EQ(e.str(), "cannot read script " + (fs::path(tempDir) / "missing.mfs").string() + ": it does not exist\n");
 }
 
 TEST_F(ScriptRunnerTest, AFailureNamesTheScriptFile) {

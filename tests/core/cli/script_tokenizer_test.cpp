@@ -25,6 +25,13 @@ TEST(ScriptTokenizer, BlanksAndTabsSplitWords) {
   EXPECT_EQ(Split("expect Hex[3,4].Owner 2\r"), (Words{"expect", "Hex[3,4].Owner", "2"}));
 }
 
+TEST(ScriptTokenizer, BlanksInsideAFieldNamesBracketsBelongToIt) {
+  EXPECT_EQ(Split("print Unit[ 1 ].Readiness"), (Words{"print", "Unit[ 1 ].Readiness"}));
+  EXPECT_EQ(Split("set Hex[ 3, 4 ].Unit[ 2 ] 7"), (Words{"set", "Hex[ 3, 4 ].Unit[ 2 ]", "7"}));
+  // A closing bracket without an opening one splits as before.
+  EXPECT_EQ(Split("a] b"), (Words{"a]", "b"}));
+}
+
 TEST(ScriptTokenizer, QuotesKeepBlanks) {
   EXPECT_EQ(Split("expect-msg \"File does not exist\""), (Words{"expect-msg", "File does not exist"}));
   EXPECT_EQ(Split("set Unit[1].Name \"  Ærø Bataljon \""), (Words{"set", "Unit[1].Name", "  Ærø Bataljon "}));

@@ -70,6 +70,21 @@ TEST_F(TurnCommandsTest, ARefusedStartPrintsItsMessageAndFails) {
   EXPECT_EQ(UI.EditMode, 1);
 }
 
+TEST_F(TurnCommandsTest, ARefusedSettingCancelsTheDialogBeforeAnythingStarts) {
+  EXPECT_EQ(Run(std::string(kTwoRegimes) + "start fog=2 ai=0,1\n"), 1);
+  EXPECT_EQ(out.str(), "DIALOG [startgame] fog=2\n");
+  EXPECT_EQ(err.str(), "t.mfs:6: dialog startgame: fog: a box takes 0 or 1, not \"2\"\n");
+  EXPECT_EQ(Game.Turn, 0);
+  EXPECT_EQ(UI.EditMode, 1);
+  EXPECT_EQ(Regime[2].AI, 0);  // the settings after the refused one were never made
+
+  EXPECT_EQ(Run(std::string(kTwoRegimes) + "start ai=abc fog=1\n"), 1);
+  EXPECT_EQ(out.str(), "DIALOG [startgame] ai=abc\n");
+  EXPECT_EQ(err.str(), "t.mfs:6: dialog startgame: ai: a box takes 0 or 1, not \"abc\"\n");
+  EXPECT_EQ(Game.Turn, 0);
+  EXPECT_EQ(Game.FogOfWar, 0);
+}
+
 TEST_F(TurnCommandsTest, StartRefusesUnknownSettings) {
   EXPECT_EQ(Run(std::string(kTwoRegimes) + "start fogg=1\n"), 1);
   EXPECT_EQ(err.str(),

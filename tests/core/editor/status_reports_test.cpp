@@ -1,8 +1,8 @@
 // The Status dialog's three reports and the Info dialog, each worked out by
 // hand for a small world: a hex reached by two SHQs, one through a port and
 // one over open shore; an order of battle; a supply report with its sums.
-#include "editor/status_dialog.h"
-#include "editor/type_info_dialog.h"
+#include "view/status_dialog.h"
+#include "engine/type_info_dialog.h"
 
 #include "core/econ/econ_test_util.h"
 

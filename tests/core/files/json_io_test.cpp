@@ -2,6 +2,7 @@
 // JSON to tables to file gives the bytes of the file it came from.
 #include <string>
 
+#include "control/scenario_flow.h"
 #include "files/json_io.h"
 #include "files/scenario_file.h"
 #include "files_test_util.h"
@@ -94,7 +95,7 @@ TEST_F(JsonIo, MissingNamesReadAsZeroOrEmpty) {
       "Game.MapW": 12, "Game.MapH": 11, "Game.RegimeCount": 1,
       "Regime[1].Name": "Solo", "Dip[1,1].Cost": 0, "Hex[3,3].Land": 4,
       "Game.ShowAIMoves": true, "Game.UnitCount": 1, "Unit[1].Name": "Lone", "Unit[1].Regime": 1,
-      "Unit[1].Readiness": 55.5, "Unit[1].MP": "7", "Game.TypeCount": 1, "Type[1].Name": "Foot", "Type[1].Class": 1}})";
+      "Unit[1].Readiness": 55.5, "Unit[1].MP": 7, "Game.TypeCount": 1, "Type[1].Name": "Foot", "Type[1].Class": 1}})";
   std::string why;
   ASSERT_TRUE(ImportJson(json, &why)) << why;
   EXPECT_EQ(Game.FileVersion, 111);  // no version given: the current layout
@@ -124,7 +125,7 @@ TEST_F(JsonIo, MissingNamesReadAsZeroOrEmpty) {
 TEST_F(JsonIo, ImportJsonRefusesWhatIsNotAScenario) {
   std::string why;
   EXPECT_FALSE(ImportJson("{ not json", &why));
-  EXPECT_EQ(why, "not valid JSON");
+  EXPECT_EQ(why.rfind("not valid JSON: line 1, column 4: ", 0), 0u) << why;
   EXPECT_FALSE(ImportJson("[1, 2]", &why));
   EXPECT_EQ(why, "not a JSON object");
   EXPECT_FALSE(ImportJson(R"({"format": "something else", "fields": {}})", &why));
@@ -135,10 +136,50 @@ TEST_F(JsonIo, ImportJsonRefusesWhatIsNotAScenario) {
   EXPECT_EQ(why, "no \"fields\" object");
 }
 
+TEST_F(JsonIo, ASyntaxErrorNamesItsLineAndColumn) {
+  std::string why;
+  EXPECT_FALSE(ImportJson("{\n  \"format\": \"marrowfield-scenario\",\n  \"fields\": {\"Game.Turn\": 3,,}\n}", &why));
+  EXPECT_EQ(why.rfind("not valid JSON: line 3, column 29: ", 0), 0u) << why;
+  // Columns count characters, not the bytes of a UTF-8 letter.
+  EXPECT_FALSE(ImportJson("{\"Ærø\": x}", &why));
+  EXPECT_EQ(why.rfind("not valid JSON: line 1, column 9: ", 0), 0u) << why;
+}
+
+TEST_F(JsonIo, AValueOfTheWrongKindIsRefusedWithItsPath) {
+  auto refusal = [](const std::string& fields) {
+    std::string why;
+    EXPECT_FALSE(ImportJson(R"({"format": "marrowfield-scenario", "fields": {)" + fields + "}}", &why)) << fields;
+    return why;
+  };
+  EXPECT_EQ(refusal(R"("Game.MapW": 12, "Game.MapH": 10, "Game.Turn": "7")"),
+            "fields.\"Game.Turn\": expected a number, found a text");
+  EXPECT_EQ(refusal(R"("Game.DirMap": 5)"), "fields.\"Game.DirMap\": expected a text, found a number");
+  EXPECT_EQ(refusal(R"("Game.ShowAIMoves": 1)"), "fields.\"Game.ShowAIMoves\": expected true or false, found a number");
+  EXPECT_EQ(refusal(R"("Game.Turn": [1])"), "fields.\"Game.Turn\": expected a number, found a list");
+  EXPECT_EQ(refusal(R"("Game.Turn": null)"), "fields.\"Game.Turn\": expected a number, found null");
+  EXPECT_EQ(refusal(R"("Game.Turn": 3000000000)"), "fields.\"Game.Turn\": 3000000000 does not fit a long field");
+  EXPECT_EQ(refusal(R"("Game.Turn": 1e10)"), "fields.\"Game.Turn\": 10000000000.0 does not fit a long field");
+  EXPECT_EQ(refusal(R"("Game.MapW": 10, "Game.MapH": 10, "Hex[1,1].Vis": 40000)"),
+            "fields.\"Hex[1,1].Vis\": 40000 does not fit a short field");
+}
+
+TEST_F(JsonIo, AnUnknownFieldNameIsRefusedWithItsPath) {
+  std::string why;
+  const std::string head = R"({"format": "marrowfield-scenario", "fields": {"Game.MapW": 10, "Game.MapH": 10, )";
+  EXPECT_FALSE(ImportJson(head + R"("Game.Turnn": 3}})", &why));
+  EXPECT_EQ(why, "fields.\"Game.Turnn\": no such field in a scenario with these counts and this map");
+  // A field beyond the counts the file gives is as unknown as a misspelt one.
+  EXPECT_FALSE(ImportJson(head + R"("Game.UnitCount": 1, "Unit[2].Name": "Extra"}})", &why));
+  EXPECT_EQ(why, "fields.\"Unit[2].Name\": no such field in a scenario with these counts and this map");
+  EXPECT_FALSE(ImportJson(head + R"("Hex[11,1].Land": 1}})", &why));
+  EXPECT_EQ(why, "fields.\"Hex[11,1].Land\": no such field in a scenario with these counts and this map");
+  EXPECT_TRUE(ImportJson(head + R"("Game.UnitCount": 1, "Unit[1].Name": "Lone"}})", &why)) << why;
+}
+
 TEST_F(JsonIo, OutOfRangeValuesAreCheckedAsInAFile) {
   const std::string json = R"({"format": "marrowfield-scenario", "fields": {
       "Game.MapW": 5000, "Game.MapH": 10, "Game.UnitCount": 99999, "Hex[1,1].Unit[1]": 7000,
-      "Hex[1,2].Unit[1]": 1e12, "Game.TypeCount": -3}})";
+      "Hex[1,2].Unit[1]": 1e9, "Game.TypeCount": -3}})";
   std::string why;
   ASSERT_TRUE(ImportJson(json, &why)) << why;
   EXPECT_EQ(Game.MapW, 100);

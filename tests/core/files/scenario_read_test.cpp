@@ -2,6 +2,7 @@
 // fields, the version repairs.
 #include <string>
 
+#include "control/scenario_flow.h"
 #include "files/scenario_file.h"
 #include "files_test_util.h"
 #include "model/game_state.h"
@@ -104,7 +105,7 @@ TEST_F(ScenarioRead, PeopleCountStandsBeforeTheListAndAtTheStartOfEachPeople) {
   Type[t].Attr[kFrontsize] = 1;
   Type[t].Living[1] = 1;
   Type[t].Owning[1] = 1;
-  Type[t].Living[2] = 7;
+  Type[t].Living[2] = 2;
   Type[t].Owning[2] = 8;
   Type[t].Theater = 0;
   Type[t].Research = 3;
@@ -128,7 +129,7 @@ TEST_F(ScenarioRead, PeopleCountStandsBeforeTheListAndAtTheStartOfEachPeople) {
   EXPECT_EQ(People[2].Name, "Southmen");
   EXPECT_EQ(Type[1].Living[1], 1);
   EXPECT_EQ(Type[1].Owning[1], 1);
-  EXPECT_EQ(Type[1].Theater, 7);   // the Living[2] line
+  EXPECT_EQ(Type[1].Theater, 2);   // the Living[2] line
   EXPECT_EQ(Type[1].Research, 8);  // the Owning[2] line
 }
 

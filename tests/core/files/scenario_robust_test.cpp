@@ -4,6 +4,7 @@
 #include <random>
 #include <string>
 
+#include "control/scenario_flow.h"
 #include "files/scenario_file.h"
 #include "files_test_util.h"
 #include "model/game_state.h"
@@ -26,6 +27,13 @@ class ScenarioRobust : public CoreTest {
     world::AddUnit(2, 3, 3, "B", t, 5);
   }
 };
+
+// Puts value on the line of the named field in a save's lines.
+void SetLine(std::vector<std::string>& lines, const std::string& name, const std::string& value) {
+  const auto at = LinesOf(name);
+  ASSERT_FALSE(at.empty()) << name;
+  lines[at[0]] = value;
+}
 
 bool In(long v, long lo, long hi) { return v >= lo && v <= hi; }
 
@@ -151,18 +159,67 @@ TEST_F(ScenarioRobust, StockWidthOf9999IsHeldTo500) {
   EXPECT_LE(EngineVar[616].Value, 500);
 }
 
+// Values a rule divides by, pays from or counts with are held where the
+// rules keep them: a negative price cannot pay a regime for changing sides.
+TEST_F(ScenarioRobust, ValuesOutsideTheirRangeReadAsTheRulesKeepThem) {
+  SmallScenario();
+  Game.TypeCount = 1;
+  auto lines = SplitLines(SerializeScenario());
+  auto set = [&lines](const std::string& name, const std::string& value) { SetLine(lines, name, value); };
+  set("Dip[1,2].Cost", "-5 ");
+  set("Dip[2,1].Cost", " 0 ");
+  set("Dip[1,2].Relation", " 7 ");
+  set("Unit[1].Readiness", " 150 ");
+  set("Unit[2].Readiness", "-20 ");
+  set("Unit[1].InfQty", "-5 ");
+  set("Unit[1].Experience", "-1 ");
+  set("Unit[1].SupplyPct", "-30 ");
+  set("Unit[1].Theater", " 3 ");
+  set("Hex[2,2].Land", " 9 ");
+  set("Hex[2,2].Damage", " 250 ");
+  set("Hex[2,2].Entrench[3]", " 8 ");
+  set("Hex[2,2].River[1]", " 2 ");
+  set("Hex[2,2].Pop", "-100 ");
+  set("Shq[1,1].StockQty[1]", "-9 ");
+  set("Research[1].Cost", "-50 ");
+  set("Type[1].Cost", "-1 ");
+  set("Type[1].Class", " 5 ");
+  set("Game.FogOfWar", " 2 ");
+  set("Game.Turn", "-3 ");
+  onlyclear();
+  ParseScenario(JoinLines(lines));
+  EXPECT_EQ(Dip[1][2].Cost, 999);
+  EXPECT_EQ(Dip[2][1].Cost, 999);
+  EXPECT_EQ(Dip[1][2].Relation, 0);
+  EXPECT_EQ(Unit[1].Readiness, 100);
+  EXPECT_EQ(Unit[2].Readiness, 0);
+  EXPECT_EQ(Unit[1].InfQty, 0);
+  EXPECT_EQ(Unit[1].Experience, 0);
+  EXPECT_EQ(Unit[1].SupplyPct, 0);
+  EXPECT_EQ(Unit[1].Theater, 0);
+  EXPECT_EQ(Hex[2][2].Land, 0);
+  EXPECT_EQ(Hex[2][2].Damage, 100);
+  EXPECT_EQ(Hex[2][2].Entrench[3], 3);
+  EXPECT_EQ(Hex[2][2].River[1], 0);
+  EXPECT_EQ(Hex[2][2].Pop, 0);
+  EXPECT_EQ(Shq[1][1].StockQty[1], 0);
+  EXPECT_EQ(Research[1].Cost, 0);
+  EXPECT_EQ(Type[1].Cost, 0);
+  EXPECT_EQ(Type[1].Class, 0);
+  EXPECT_EQ(Game.FogOfWar, 0);
+  EXPECT_EQ(Game.Turn, 0);
+  // What is in range stays as it was.
+  EXPECT_EQ(Unit[2].InfQty, 5);
+  EXPECT_EQ(Hex[3][3].Land, 1);
+}
+
 TEST_F(ScenarioRobust, IndexFieldsNamingNothingReadAsZero) {
   SmallScenario();
   Game.OfficerCount = 1;
   Game.EventCount = 1;
   Event[1].Story = "An event";
-  const std::string plain = SerializeScenario();
-  auto lines = SplitLines(plain);
-  auto set = [&](const std::string& name, const std::string& value) {
-    const auto at = LinesOf(name);
-    ASSERT_FALSE(at.empty()) << name;
-    lines[at[0]] = value;
-  };
+  auto lines = SplitLines(SerializeScenario());
+  auto set = [&lines](const std::string& name, const std::string& value) { SetLine(lines, name, value); };
   set("Hex[2,2].Unit[1]", " 7000 ");
   set("Hex[3,3].Unit[1]", "-1 ");
   set("Hex[4,4].Unit[1]", " 2000 ");  // the last unit number is a unit

@@ -2,6 +2,8 @@
 #include <gtest/gtest.h>
 
 #include <climits>
+#include <cstdint>
+#include <limits>
 #include <vector>
 
 #include "model/arith.h"
@@ -18,6 +20,36 @@ TEST(Arith, IntIsTheFloorAlsoForNegatives) {
   EXPECT_EQ(Int(-0.1), -1);
   EXPECT_EQ(Int(-3.0), -3);
   EXPECT_EQ(Int(79.2), 79);
+}
+
+TEST(Arith, IntAndCIntHoldNoNumberAndHugeValuesAtTheEnds) {
+  const double nan = std::numeric_limits<double>::quiet_NaN();
+  const double inf = std::numeric_limits<double>::infinity();
+  EXPECT_EQ(Int(nan), 0);
+  EXPECT_EQ(CInt(nan), 0);
+  EXPECT_EQ(Int(inf), INT64_MAX);
+  EXPECT_EQ(CInt(-inf), INT64_MIN);
+  EXPECT_EQ(Int(1e300), INT64_MAX);
+  EXPECT_EQ(CInt(-1e300), INT64_MIN);
+  EXPECT_EQ(Int(9.3e18), INT64_MAX);
+  EXPECT_EQ(CInt(-9.3e18), INT64_MIN);
+  // The last doubles inside the range convert as they are.
+  EXPECT_EQ(Int(-9223372036854775808.0), INT64_MIN);
+  EXPECT_EQ(CInt(9223372036854774784.0), 9223372036854774784);
+}
+
+TEST(Arith, Clamp32AndAddSatStopAtTheEndsOfALong) {
+  EXPECT_EQ(Clamp32(5), 5);
+  EXPECT_EQ(Clamp32(3000000000LL), INT32_MAX);
+  EXPECT_EQ(Clamp32(-3000000000LL), INT32_MIN);
+  EXPECT_EQ(AddSat(10, 5), 15);
+  EXPECT_EQ(AddSat(10, -15), -5);
+  EXPECT_EQ(AddSat(INT32_MAX - 2, 5), INT32_MAX);
+  EXPECT_EQ(AddSat(INT32_MIN, -1), INT32_MIN);
+  EXPECT_EQ(AddSat(INT32_MIN, 999), INT32_MIN + 999);
+  EXPECT_EQ(AddSat(0, INT64_MAX), INT32_MAX);
+  EXPECT_EQ(AddSat(0, INT64_MIN), INT32_MIN);
+  EXPECT_EQ(AddSat(INT32_MAX, INT64_MIN), INT32_MIN);
 }
 
 TEST(Arith, CIntRoundsHalvesToTheEvenNeighbour) {

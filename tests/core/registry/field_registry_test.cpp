@@ -258,14 +258,16 @@ TEST_F(RegistryTest, RoutePlanesAreIndexedAsStored) {
 TEST_F(RegistryTest, NumbersReadWithoutTheLeadingBlankAndAreTakenByVal) {
   Set("Unit[1].MP", " 12");
   EXPECT_EQ(Get("Unit[1].MP"), "12");
-  Set("Unit[1].MP", "12abc");
-  EXPECT_EQ(Unit[1].MP, 12);
   Set("Unit[1].MP", "7.9");  // truncated, as Val takes a whole number
   EXPECT_EQ(Unit[1].MP, 7);
   Set("Unit[1].MP", "-7.9");
   EXPECT_EQ(Unit[1].MP, -7);
-  Set("Unit[1].MP", "abc");
-  EXPECT_EQ(Unit[1].MP, 0);
+  // Text that is not a plain number is refused, not read as its leading part.
+  EXPECT_EQ(SetRefusal("Unit[1].MP", "12abc"), "\"Unit[1].MP\": value \"12abc\" is not a number");
+  EXPECT_EQ(SetRefusal("Unit[1].MP", "abc"), "\"Unit[1].MP\": value \"abc\" is not a number");
+  EXPECT_EQ(SetRefusal("Unit[1].MP", "1e10"), "\"Unit[1].MP\": value \"1e10\" is not a number");
+  EXPECT_EQ(SetRefusal("Unit[1].MP", ""), "\"Unit[1].MP\": value \"\" is not a number");
+  EXPECT_EQ(Unit[1].MP, -7);
   Set("Unit[1].MP", "2147483647");
   EXPECT_EQ(Unit[1].MP, 2147483647);
   EXPECT_EQ(Get("Unit[1].MP"), "2147483647");
@@ -472,6 +474,35 @@ TEST_F(RegistryTest, PatternsNameEveryRecordAndTheWorkingFields) {
     EXPECT_TRUE(GetField(name, &value, &why)) << p << " -> " << name << ": " << why;
   }
   EXPECT_EQ(patterns.size(), std::set<std::string>(patterns.begin(), patterns.end()).size());
+}
+
+
+// A saved field takes from a script only what a load of a file would keep as
+// it stands; the file's own checks are the measure.
+TEST_F(RegistryTest, SavedFieldsRefuseWhatAFileCouldNotHold) {
+  EXPECT_EQ(SetRefusal("Dip[1,2].Cost", "-5"),
+            "\"Dip[1,2].Cost\": value -5 is outside what a scenario file holds there (0 or more)");
+  EXPECT_EQ(SetRefusal("Unit[1].Readiness", "101"),
+            "\"Unit[1].Readiness\": value 101 is outside what a scenario file holds there (0..100)");
+  EXPECT_EQ(SetRefusal("Hex[1,1].Land", "7"),
+            "\"Hex[1,1].Land\": value 7 is outside what a scenario file holds there (0..6)");
+  EXPECT_EQ(SetRefusal("Unit[1].Regime", "21"),
+            "\"Unit[1].Regime\": value 21 is outside what a scenario file holds there (0..20)");
+  EXPECT_EQ(SetRefusal("EngineVar[616]", "501"),
+            "\"EngineVar[616]\": value 501 is outside what a scenario file holds there (0..500)");
+  EXPECT_EQ(SetRefusal("Research[3].Cost", "-1"),
+            "\"Research[3].Cost\": value -1 is outside what a scenario file holds there (0..2147483647)");
+  EXPECT_EQ(Dip[1][2].Cost, 0);
+  EXPECT_EQ(Unit[1].Readiness, 0);
+  // The ends themselves are taken; fields without a check take any long.
+  Set("Unit[1].Readiness", "100");
+  EXPECT_EQ(Unit[1].Readiness, 100);
+  Set("Dip[1,2].Cost", "0");
+  EXPECT_EQ(Dip[1][2].Cost, 0);
+  Set("Regime[1].PP", "-2147483648");
+  EXPECT_EQ(Regime[1].PP, -2147483647 - 1);
+  Set("EngineVar[533]", "-3");
+  EXPECT_EQ(EngineVar[533].Value, -3);
 }
 
 }  // namespace

@@ -70,7 +70,4 @@ class StatusDialog : public HumbleDialog {
 // The Status dialog from the menu or its key: opens it and waits until it closes.
 void DoStatus();
 
-// Joins lines into one text with a line break after each.
-std::string JoinLines(const std::vector<std::string>& lines);
-
 }  // namespace mf

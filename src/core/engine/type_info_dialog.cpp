@@ -1,6 +1,5 @@
-#include "editor/type_info_dialog.h"
+#include "engine/type_info_dialog.h"
 
-#include "editor/status_dialog.h"
 #include "model/arith.h"
 #include "model/game_state.h"
 #include "model/labels.h"
@@ -37,6 +36,15 @@ std::vector<std::string> TypeInfoLines(int t) {
   for (int a = 1; a <= kTypeAttrs; ++a)
     if (ty.Attr[a] != 0) out.push_back(TypeAttrLabel(a) + " = " + NumText(ty.Attr[a]));
   return out;
+}
+
+std::string JoinLines(const std::vector<std::string>& lines) {
+  std::string text;
+  for (const auto& line : lines) {
+    text += line;
+    text += '\n';
+  }
+  return text;
 }
 
 void TypeInfoDialog::Prepare(int t) {

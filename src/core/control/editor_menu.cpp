@@ -1,7 +1,7 @@
-#include "editor/editor_menu.h"
+#include "control/editor_menu.h"
 
-#include "editor/status_dialog.h"
 #include "model/game_state.h"
+#include "view/status_dialog.h"
 
 namespace mf {
 namespace {

@@ -43,6 +43,10 @@ class TypeInfoDialog : public HumbleDialog {
   std::string DefaultAction() const override { return "close"; }
 };
 
+// Joins the lines of a report into one text with a line break after each,
+// as the reports are copied to the clipboard.
+std::string JoinLines(const std::vector<std::string>& lines);
+
 // Shows the Info dialog of type t and waits until it is closed; nothing for
 // a type outside 1..Game.TypeCount.
 void doinfo(int t);

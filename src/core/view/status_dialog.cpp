@@ -1,10 +1,11 @@
-#include "editor/status_dialog.h"
+#include "view/status_dialog.h"
 
 #include <algorithm>
 #include <cstdint>
 
 #include "engine/production.h"
 #include "engine/supply_flood.h"
+#include "engine/type_info_dialog.h"
 #include "model/arith.h"
 #include "model/game_state.h"
 
@@ -204,15 +205,6 @@ std::vector<std::string> dostatusSupply() {
     out.push_back("SHQ INPUT = " + NumText(in) + "     SHQ OUTPUT = " + NumText(given));
   }
   return out;
-}
-
-std::string JoinLines(const std::vector<std::string>& lines) {
-  std::string text;
-  for (const auto& line : lines) {
-    text += line;
-    text += '\n';
-  }
-  return text;
 }
 
 void StatusDialog::Prepare() {
