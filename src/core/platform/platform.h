@@ -53,6 +53,9 @@ class Platform {
   // Whether the mouse button is held down now; a dragged scroll bar waits for
   // its release before the map is redrawn.
   virtual bool MouseButtonDown() { return false; }
+  // One line of the computer player's analysis log, as it is written. The
+  // window appends it to its analysis list; the headless program prints it.
+  virtual void AnalysisLine(const std::string&) {}
   // The lines of a report (the Status and Info dialogs) each time one is
   // filled. A window shows them in the dialog itself and needs nothing here;
   // the scripted platform records and prints them.

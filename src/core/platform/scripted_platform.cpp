@@ -63,6 +63,14 @@ bool ScriptedPlatform::PickColor(long* rgb) {
   return true;
 }
 
+// Analysis lines are printed but not kept among the events: a long game
+// writes thousands of them, and the message cursor of a script has no use
+// for them.
+void ScriptedPlatform::AnalysisLine(const std::string& line) {
+  if (printer) printer({PlatformEvent::kAnalysis, "", line, ""});
+  if (keepAnalysis) analysis_.push_back(line);
+}
+
 std::string ScriptedPlatform::OpenFileDialog(const std::string& title, const std::string&,
                                              const std::string&) {
   std::string path;
@@ -127,6 +135,7 @@ void ScriptedPlatform::Clear() {
   dialogs_.clear();
   events_.clear();
   sounds_.clear();
+  analysis_.clear();
   lastError.clear();
 }
 
@@ -143,6 +152,8 @@ std::string FormatEvent(const PlatformEvent& e) {
       return "DIALOG [" + e.title + "] " + e.text;
     case PlatformEvent::kSound:
       return "SOUND " + e.text;
+    case PlatformEvent::kAnalysis:
+      return "AI " + e.text;
     case PlatformEvent::kReport:
       return "REPORT " + e.text;
     case PlatformEvent::kColor:
