@@ -16,6 +16,10 @@ QListWidget* NewReportList(QWidget* parent) {
 void RegisterEditorViews() {
   RegisterStatusView();
   RegisterTypeInfoView();
+  RegisterTypesView();
+  RegisterRegimesView();
+  RegisterCurrentUnitView();
+  RegisterGeneralView();
 }
 
 }  // namespace mf::app

@@ -12,6 +12,10 @@ void RegisterEditorViews();
 // The views of each dialog (status_view.cpp, type_info_view.cpp, ...).
 void RegisterStatusView();
 void RegisterTypeInfoView();
+void RegisterTypesView();
+void RegisterRegimesView();
+void RegisterCurrentUnitView();
+void RegisterGeneralView();
 
 // A report list in a fixed-pitch font, as the reports line up by blanks.
 QListWidget* NewReportList(QWidget* parent);

@@ -46,6 +46,9 @@ class QtPlatform : public mf::Platform {
   unsigned TickCount() override;
 
   bool MouseButtonDown() override;
+  // The native colour picker; unattended it takes a queued "#rrggbb" answer
+  // (anything else, or nothing queued, is a cancel).
+  bool PickColor(long* rgb) override;
 
   // Unattended: nobody sits at the screen (a screenshot run, the GUI tests).
   // Message boxes are written to the error stream and recorded instead of

@@ -175,8 +175,7 @@ bool ExpectMsg(Run& run, const Words& a, std::string* why) {
 }
 
 // Fails when a message box, question or prompt with that text was shown
-// since the last expect-msg or expect-no-msg; the next check starts after
-// what has been shown so far.
+// since the last expect-msg that matched; consumes nothing.
 bool ExpectNoMsg(Run& run, const Words& a, std::string* why) {
   const auto& events = run.platform.Events();
   for (std::size_t i = run.msgCursor; i < events.size(); ++i) {
@@ -186,7 +185,6 @@ bool ExpectNoMsg(Run& run, const Words& a, std::string* why) {
       return false;
     }
   }
-  run.msgCursor = events.size();
   return true;
 }
 

@@ -1,11 +1,21 @@
 #include "control/editor_menu.h"
 
+#include "editor/current_unit_dialog.h"
+#include "editor/general_dialog.h"
+#include "editor/regimes_dialog.h"
+#include "editor/types_dialog.h"
 #include "model/game_state.h"
 #include "view/status_dialog.h"
 
 namespace mf {
 namespace {
 
+constexpr EditorMenuEntry kEditEntries[] = {
+    {"general", "General..."},
+    {"currentunit", "Current Unit..."},
+    {"regimes", "Regimes..."},
+    {"types", "Types..."},
+};
 constexpr EditorMenuEntry kGameEntries[] = {
     {"status", "Status..."},
 };
@@ -16,17 +26,28 @@ struct Opener {
 };
 const Opener kOpeners[] = {
     {"status", &DoStatus},
+    {"general", &doGeneral},
+    {"currentunit", &docurrent},
+    {"regimes", &doregimes},
+    {"types", &dotypes},
 };
 
 }  // namespace
 
-std::span<const EditorMenuEntry> EditMenuEntries() { return {}; }
+std::span<const EditorMenuEntry> EditMenuEntries() { return kEditEntries; }
 std::span<const EditorMenuEntry> GameMenuEntries() { return kGameEntries; }
 
 bool MenuDialogEnabled(const std::string& name) {
   if (UI.BusyPointer) return false;
   if (name == "status") return true;
-  return UI.EditMode == 1 && Game.Turn == 0;
+  if (UI.EditMode != 1 || Game.Turn != 0) return false;
+  // The unit editor edits the formation selected on the map.
+  if (name == "currentunit") {
+    if (!ValidHex(UI.SelX, UI.SelY) || UI.SelSlot < 1 || UI.SelSlot > kStackSlots) return false;
+    const Long u = Hex[UI.SelX][UI.SelY].Unit[UI.SelSlot];
+    return ValidUnit(u) && Unit[u].Regime > 0;
+  }
+  return true;
 }
 
 bool OpenMenuDialog(const std::string& name, std::string* why) {
