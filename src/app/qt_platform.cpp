@@ -199,8 +199,7 @@ bool QtPlatform::PickColor(long* rgb) {
   if (unattended_) {
     const std::string a = NextAnswer("cancel");
     const QColor c(QString::fromStdString(a));
-    std::cerr << "COLOUR -> " << (c.isValid() ? a : std::string("cancel")) << "
-";
+    std::cerr << "COLOUR -> " << (c.isValid() ? a : std::string("cancel")) << "\n";
     if (!c.isValid()) return false;
     *rgb = (static_cast<long>(c.red()) << 16) | (c.green() << 8) | c.blue();
     return true;
