@@ -5,6 +5,7 @@
 #include "battle_view.h"
 #include "clear_dialog_view.h"
 #include "diplomatics_view.h"
+#include "editor_views.h"
 #include "event_view.h"
 #include "new_turn_view.h"
 #include "newunit_view.h"
@@ -35,6 +36,7 @@ void RegisterAllDialogViews() {
   RegisterBattleView();
   RegisterClearDialogView();
   RegisterDiplomaticsView();
+  RegisterEditorViews();
   RegisterEventView();
   RegisterNewTurnView();
   RegisterNewUnitView();

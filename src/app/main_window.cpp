@@ -17,6 +17,7 @@
 #include <QVBoxLayout>
 
 #include "ai/ai_state.h"
+#include "control/editor_menu.h"
 #include "control/keyboard.h"
 #include "control/menu_state.h"
 #include "control/order_state.h"
@@ -411,6 +412,10 @@ void MainWindow::BuildMenus() {
   AddAction(game, "surrender", "Surrender", [] {
     if (SurrenderConfirmed()) mf::SurrenderCommand();
   });
+  game->addSeparator();
+  for (const auto& e : mf::GameMenuEntries()) AddMenuDialog(game, e.name, e.text);
+  // F3 opens the status reports, as the key beside the editor's F2.
+  if (QAction* status = action("status")) status->setShortcut(QKeySequence(Qt::Key_F3));
 
   QMenu* view = menuBar()->addMenu("&View");
   const struct {
@@ -453,6 +458,8 @@ void MainWindow::BuildMenus() {
 
   QMenu* edit = menuBar()->addMenu("&Edit");
   AddAction(edit, "editor", "Editor", [] { mf::ToggleEditor(); }, true);
+  edit->addSeparator();
+  for (const auto& e : mf::EditMenuEntries()) AddMenuDialog(edit, e.name, e.text);
 
   // Help can be read at any time, also while the computer plays: the windows
   // stand beside the game and change nothing in it.
@@ -477,6 +484,14 @@ void MainWindow::BuildMenus() {
     });
     actions_[page.name] = a;
   }
+}
+
+void MainWindow::AddMenuDialog(QMenu* menu, const std::string& name, const char* text) {
+  AddAction(menu, name, text, [name] {
+    std::string why;
+    mf::OpenMenuDialog(name, &why);
+  });
+  menuDialogs_.push_back(name);
 }
 
 QAction* MainWindow::action(const std::string& name) const {
@@ -539,6 +554,9 @@ void MainWindow::ApplyMenuState() {
       {"surrender", m.surrender},     {"editor", m.editor}};
   for (const auto& [name, on] : enabled) {
     if (QAction* a = action(name)) a->setEnabled(on);
+  }
+  for (const auto& name : menuDialogs_) {
+    if (QAction* a = action(name)) a->setEnabled(mf::MenuDialogEnabled(name));
   }
   const std::pair<const char*, bool> checked[] = {{"showEnemy", m.showEnemy},
                                                   {"showSight", m.showSight},

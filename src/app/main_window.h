@@ -15,6 +15,7 @@
 #include <functional>
 #include <map>
 #include <string>
+#include <vector>
 
 namespace mf::app {
 
@@ -86,6 +87,8 @@ class MainWindow : public QMainWindow {
   QWidget* BuildCentre();
   QAction* AddAction(QMenu* menu, const std::string& name, const QString& text,
                      const std::function<void()>& command, bool checkable = false);
+  // A menu entry that opens an editor or a report by its name.
+  void AddMenuDialog(QMenu* menu, const std::string& name, const char* text);
   void LayOutOrderButtons(int perRow);
   void Tick();
   void ReloadPicturesIfNeeded();
@@ -121,6 +124,7 @@ class MainWindow : public QMainWindow {
   QLabel* orderLine_ = nullptr;
   QLabel* bigPicture_ = nullptr;
   std::map<std::string, QAction*> actions_;
+  std::vector<std::string> menuDialogs_;  // entries of AddMenuDialog
   std::map<std::string, QPushButton*> buttons_;
   QTimer timer_;
   int acting_ = 0;

@@ -52,6 +52,9 @@ class QtPlatform : public mf::Platform {
     if (analysisSink_) analysisSink_(line);
   }
   void SetAnalysisSink(std::function<void(const std::string&)> sink) { analysisSink_ = std::move(sink); }
+  // The native colour picker; unattended it takes a queued "#rrggbb" answer
+  // (anything else, or nothing queued, is a cancel).
+  bool PickColor(long* rgb) override;
 
   // Unattended: nobody sits at the screen (a screenshot run, the GUI tests).
   // Message boxes are written to the error stream and recorded instead of

@@ -11,6 +11,7 @@
 #include "ai/ai_turn.h"
 #include "ai/stage_names.h"
 #include "combat/battle_window.h"
+#include "control/editor_menu.h"
 #include "control/keyboard.h"
 #include "control/order_state.h"
 #include "control/scenario_flow.h"
@@ -46,6 +47,7 @@ struct Run {
   std::ostream& out;
   ScriptedPlatform platform;
   std::size_t msgCursor = 0;
+  std::size_t reportCursor = 0;
   std::string tempDir;  // made on the first use of $TMP, removed at the end
 
   Run(std::string n, std::string dir, std::ostream& o) : name(std::move(n)), baseDir(std::move(dir)), out(o) {}
@@ -158,13 +160,16 @@ bool Expect(Run&, const Words& a, std::string* why) {
   return true;
 }
 
+// A message box, a question or a prompt: what expect-msg looks at.
+bool IsBox(const PlatformEvent& e) {
+  return e.kind == PlatformEvent::kMessage || e.kind == PlatformEvent::kQuestion || e.kind == PlatformEvent::kPrompt;
+}
+
 bool ExpectMsg(Run& run, const Words& a, std::string* why) {
   const auto& events = run.platform.Events();
   for (std::size_t i = run.msgCursor; i < events.size(); ++i) {
     const auto& e = events[i];
-    const bool box = e.kind == PlatformEvent::kMessage || e.kind == PlatformEvent::kQuestion ||
-                     e.kind == PlatformEvent::kPrompt;
-    if (box && e.text == a[0]) {
+    if (IsBox(e) && e.text == a[0]) {
       run.msgCursor = i + 1;
       return true;
     }
@@ -172,6 +177,36 @@ bool ExpectMsg(Run& run, const Words& a, std::string* why) {
   *why = "expect-msg: no message \"" + a[0] + "\" was shown";
   return false;
 }
+
+// Fails when a message box, question or prompt with that text was shown
+// since the last expect-msg that matched; consumes nothing.
+bool ExpectNoMsg(Run& run, const Words& a, std::string* why) {
+  const auto& events = run.platform.Events();
+  for (std::size_t i = run.msgCursor; i < events.size(); ++i) {
+    const auto& e = events[i];
+    if (IsBox(e) && e.text == a[0]) {
+      *why = "expect-no-msg: the message \"" + a[0] + "\" was shown";
+      return false;
+    }
+  }
+  return true;
+}
+
+// Consumes printed report lines up to the first that reads TEXT.
+bool ExpectReport(Run& run, const Words& a, std::string* why) {
+  const auto& events = run.platform.Events();
+  for (std::size_t i = run.reportCursor; i < events.size(); ++i) {
+    if (events[i].kind == PlatformEvent::kReport && events[i].text == a[0]) {
+      run.reportCursor = i + 1;
+      return true;
+    }
+  }
+  *why = "expect-report: no report line \"" + a[0] + "\" was shown";
+  return false;
+}
+
+// A dialog of the menus, opened as its menu entry opens it.
+bool Open(Run&, const Words& a, std::string* why) { return OpenMenuDialog(a[0], why); }
 
 bool Answer(Run& run, const Words& a, std::string*) {
   for (const auto& answer : a) run.platform.QueueAnswer(answer);
@@ -502,6 +537,9 @@ const Command kCommands[] = {
     {"print", 1, 1, "print FIELD", &Print},
     {"expect", 2, 2, "expect FIELD VALUE", &Expect},
     {"expect-msg", 1, 1, "expect-msg \"TEXT\"", &ExpectMsg},
+    {"expect-no-msg", 1, 1, "expect-no-msg \"TEXT\"", &ExpectNoMsg},
+    {"expect-report", 1, 1, "expect-report \"TEXT\"", &ExpectReport},
+    {"open", 1, 1, "open NAME", &Open},
     {"answer", 1, -1, "answer A [A ...]", &Answer},
     {"on", 1, -1, "on DIALOG ACTION ...", &On},
     {"tick", 0, 1, "tick [N]", &Tick},
