@@ -14,7 +14,6 @@
 #include <cstring>
 #include <filesystem>
 #include <fstream>
-#include <iterator>
 #include <limits>
 #include <system_error>
 
@@ -25,6 +24,7 @@
 #include "model/engine_vars.h"
 #include "model/game_state.h"
 #include "model/reset.h"
+#include "platform/file_io.h"
 #include "platform/paths.h"
 #include "platform/platform.h"
 #include "view/counter.h"
@@ -305,55 +305,12 @@ class WriteVisitor {
 // ---------------------------------------------------------------------------
 // Files on disk
 
-bool ReadAllBytes(const std::string& path, std::string& bytes) {
-  bytes.clear();
-  std::error_code ec;
-  if (!fs::is_regular_file(path, ec)) return false;
-  std::ifstream f(path, std::ios::binary);
-  if (!f) return false;
-  bytes.assign(std::istreambuf_iterator<char>(f), std::istreambuf_iterator<char>());
-  return !f.bad();
-}
-
 void FlipTopBits(std::string& bytes) {
   for (char& c : bytes) c = static_cast<char>(static_cast<unsigned char>(c) ^ 0x80u);
 }
 
-// The temporary file a save writes first, next to its target.
-std::string TempPathFor(const std::string& path) { return path + ".tmp"; }
-
-// Writes bytes to a temporary file in the same folder, flushes it and renames
-// it over the target, so the target is either the old file or the new one.
-bool ReplaceFile(const std::string& path, const std::string& bytes) {
-  const std::string temp = TempPathFor(path);
-  std::error_code ec;
-  {
-    std::ofstream f(temp, std::ios::binary | std::ios::trunc);
-    if (!f) return false;
-    f.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
-    f.flush();
-    if (!f) {
-      f.close();
-      fs::remove(temp, ec);
-      return false;
-    }
-    f.close();
-    if (f.fail()) {
-      fs::remove(temp, ec);
-      return false;
-    }
-  }
-  fs::rename(temp, path, ec);
-  if (ec) {
-    std::error_code ignored;
-    fs::remove(temp, ignored);
-    return false;
-  }
-  return true;
-}
-
-// Overwrites a file in place; the fallback when no temporary file can be
-// made next to it.
+// Overwrites a file in place; the fallback of the scrambling transform when
+// no temporary file can be made next to it.
 bool OverwriteFile(const std::string& path, const std::string& bytes) {
   std::ofstream f(path, std::ios::binary | std::ios::trunc);
   if (!f) return false;
@@ -372,14 +329,30 @@ bool FileExists(const std::string& path) {
   return fs::exists(path, ec);
 }
 
-// Reads the bytes of a file to be loaded, unscrambling it on disk first when
-// its first number is 0.
-void ReadPlainBytes(const std::string& path, std::string& bytes) {
-  ReadAllBytes(path, bytes);
-  if (FirstNumber(bytes) == 0) {
-    Transform(path);
-    ReadAllBytes(path, bytes);
-  }
+// Reads the bytes of a file to be loaded and unscrambles them in memory when
+// the first number is 0. The file on disk is not touched: the end state the
+// rules ask for is reached without it (a scrambled file, transformed twice,
+// is what it was), a file on a read-only disk or in the install folder loads
+// in full, and a file is never left plain by a load that stops half way.
+bool ReadPlainBytes(const std::string& path, std::string* bytes, bool* wasScrambled, std::string* why) {
+  if (!ReadWholeFile(path, bytes, why)) return false;
+  *wasScrambled = FirstNumber(*bytes) == 0;
+  if (*wasScrambled) FlipTopBits(*bytes);
+  return true;
+}
+
+// A plain file is left scrambled by being read, as every read leaves a file.
+// The file keeps its links and permissions; where it cannot be written (a
+// read-only disk, the install folder) it stays as it is, and the load stands.
+void LeaveScrambled(const std::string& path, std::string plain) {
+  FlipTopBits(plain);
+  ReplaceFileAtomically(path, plain);
+}
+
+// A file that stands but cannot be read is refused before anything of the
+// game is touched, with its name and the reason.
+void RefuseUnreadable(const std::string& path, const std::string& why) {
+  Plat().ShowMessage("Cannot read " + path + ": " + why + ".", "File I/O");
 }
 
 void RecomputeCountersAndSprites() {
@@ -412,9 +385,9 @@ bool Transform(const std::string& path) {
     return false;
   }
   std::string bytes;
-  if (!ReadAllBytes(path, bytes)) return false;
+  if (!ReadWholeFile(path, &bytes, nullptr)) return false;
   FlipTopBits(bytes);
-  if (ReplaceFile(path, bytes)) return true;
+  if (ReplaceFileAtomically(path, bytes)) return true;
   return OverwriteFile(path, bytes);
 }
 
@@ -438,18 +411,24 @@ bool WriteFile(const std::string& path) {
   if (path.empty()) return false;
   std::string bytes = SerializeScenario();
   FlipTopBits(bytes);
-  return ReplaceFile(path, bytes);
+  return ReplaceFileAtomically(path, bytes);
 }
 
 bool ReadFile(const std::string& path) {
   if (!CanOpenForReading(path)) return false;
+  std::string bytes, why;
+  bool scrambled = false;
+  if (!ReadPlainBytes(path, &bytes, &scrambled, &why)) {
+    RefuseUnreadable(path, why);
+    return false;
+  }
   UI.EditMode = 0;
-  std::string bytes;
-  ReadPlainBytes(path, bytes);
   ReadVisitor r(bytes, false);
   WalkScenario(r);
   if (r.version > kFileVersion) {
-    // The file stays unscrambled on disk: nothing turns it back.
+    // A newer file is left plain on disk, as a refused load has always left
+    // it: nothing turns it back.
+    if (scrambled) ReplaceFileAtomically(path, bytes);
     Plat().ShowMessage(std::string("Please, you have to get a newer version of Marrowfield on the internet: ") +
                            kDownloadAddress,
                        "");
@@ -457,7 +436,7 @@ bool ReadFile(const std::string& path) {
     return false;
   }
   // Whatever state the file was in, it ends scrambled.
-  Transform(path);
+  if (!scrambled) LeaveScrambled(path, std::move(bytes));
   if (EV(704) == 0) Plat().ShowMessage("Loaded", "");
   RepairEngineVarsAfterLoad(r.version, false);
   RecomputeCountersAndSprites();
@@ -465,6 +444,13 @@ bool ReadFile(const std::string& path) {
 }
 
 bool doGoLoad(const std::string& path) {
+  // A file that stands but cannot be read (a folder, a device, no
+  // permission) is refused before the game in memory is cleared.
+  std::string why;
+  if (!path.empty() && FileExists(path) && !CanReadFile(path, &why)) {
+    RefuseUnreadable(path, why);
+    return false;
+  }
   onlyclear();
   if (!ReadFile(path)) return false;
   if (Game.Turn > 0) {
@@ -488,12 +474,16 @@ bool doGoLoad(const std::string& path) {
 
 bool ImportFile(const std::string& path) {
   if (!CanOpenForReading(path)) return false;
+  std::string bytes, why;
+  bool scrambled = false;
+  if (!ReadPlainBytes(path, &bytes, &scrambled, &why)) {
+    RefuseUnreadable(path, why);
+    return false;
+  }
   UI.EditMode = 1;
-  std::string bytes;
-  ReadPlainBytes(path, bytes);
   ReadVisitor r(bytes, true);
   WalkScenario(r);
-  Transform(path);
+  if (!scrambled) LeaveScrambled(path, std::move(bytes));
   RepairEngineVarsAfterLoad(r.version, true);
   RecomputeCountersAndSprites();
   return true;

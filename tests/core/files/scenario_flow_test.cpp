@@ -1,8 +1,13 @@
 // The flows around the file: scrambling, save, load, import, the campaign
 // rules and the menu scenarios, with their messages.
+#include <chrono>
 #include <filesystem>
 #include <fstream>
 #include <string>
+
+#include <sys/types.h>
+#include <sys/wait.h>
+#include <unistd.h>
 
 #include "files/scenario_file.h"
 #include "files_test_util.h"
@@ -118,51 +123,121 @@ TEST_F(ScenarioFlow, SaveCommandCancelledOrFailing) {
   EXPECT_EQ(LastTitle(), "File I/O");
 }
 
-TEST_F(ScenarioFlow, InterruptedSaveLeavesTheOldFileIntact) {
+TEST_F(ScenarioFlow, ASaveLeavesAFileOfThePlayersNamedLikeATemporaryFileAlone) {
   const std::string path = SavedScenario("keep.mf1");
   const std::string old = ReadBytes(path);
   Regime[1].Name = "Changed";
+  // Something else holds the name a careless save would take for itself.
+  WriteBytes(path + ".tmp", "the player's own notes");
+  fs::create_directories(path + ".tmp-1/inner");
+  EXPECT_TRUE(WriteFile(path));
+  EXPECT_NE(ReadBytes(path), old);
+  EXPECT_EQ(ReadBytes(path + ".tmp"), "the player's own notes");
+  EXPECT_TRUE(fs::is_directory(path + ".tmp-1/inner"));
+}
 
-  // The temporary file cannot be made: something else holds its name.
-  fs::create_directories(path + ".tmp/inner");
-  EXPECT_FALSE(WriteFile(path));
-  EXPECT_EQ(ReadBytes(path), old);
-  dialogs.QueueFile(path);
-  SaveCommand();
-  EXPECT_EQ(Shown().back(), "Save canceled");
-  EXPECT_EQ(ReadBytes(path), old);
-  fs::remove_all(path + ".tmp");
+// Names in a folder that a save's temporary files have (".NAME.tmp-...").
+int TemporaryFilesIn(const std::string& dir) {
+  int n = 0;
+  for (const auto& e : fs::directory_iterator(dir))
+    if (e.path().filename().string().find(".tmp-") != std::string::npos) ++n;
+  return n;
+}
 
+TEST_F(ScenarioFlow, InterruptedSaveLeavesTheOldFileIntact) {
   // The rename cannot replace the target: a folder with files stands there.
+  SavedScenario("keep.mf1");
   const std::string folder = TempPath("folder.mf1");
   fs::create_directories(folder + "/inside");
   WriteBytes(folder + "/inside/old.txt", "old");
   EXPECT_FALSE(WriteFile(folder));
+  dialogs.QueueFile(folder);
+  SaveCommand();
+  EXPECT_EQ(Shown().back(), "Save canceled");
   EXPECT_EQ(ReadBytes(folder + "/inside/old.txt"), "old");
-  EXPECT_FALSE(fs::exists(folder + ".tmp"));  // the temporary file is cleaned up
+  EXPECT_EQ(TemporaryFilesIn(tempDir), 0);  // the temporary file is cleaned up
 }
 
+// The save runs as a player without write permission on the folder: as
+// itself when it is not root, else in a child process that has become the
+// user nobody (root writes anywhere, so it proves nothing itself).
 TEST_F(ScenarioFlow, SaveIntoAFolderWithoutWritePermission) {
   const std::string path = SavedScenario("keep.mf1");
   const std::string old = ReadBytes(path);
   Regime[1].Name = "Changed";
-  // Not a barrier for root, for whom this test is skipped.
   const std::string locked = TempPath("locked");
   fs::create_directories(locked);
   const std::string lockedFile = locked + "/game.mf1";
   WriteBytes(lockedFile, old);
-  fs::permissions(locked, fs::perms::owner_read | fs::perms::owner_exec);
-  {
-    std::ofstream probe(locked + "/probe");
-    if (probe) {
-      probe.close();
-      fs::permissions(locked, fs::perms::owner_all);
-      GTEST_SKIP() << "running with rights that ignore folder permissions";
+  fs::permissions(tempDir, fs::perms::owner_all | fs::perms::others_exec | fs::perms::group_exec);
+  int saved = -1;
+  if (geteuid() != 0) {
+    fs::permissions(locked, fs::perms::owner_read | fs::perms::owner_exec);
+    saved = WriteFile(lockedFile) ? 1 : 0;
+  } else {
+    constexpr uid_t kNobody = 65534;
+    ASSERT_EQ(chown(lockedFile.c_str(), kNobody, kNobody), 0);
+    ASSERT_EQ(chown(locked.c_str(), kNobody, kNobody), 0);
+    fs::permissions(locked, fs::perms::owner_read | fs::perms::owner_exec);
+    const pid_t child = fork();
+    ASSERT_GE(child, 0);
+    if (child == 0) {
+      const bool dropped = setgid(kNobody) == 0 && setuid(kNobody) == 0;
+      _exit(!dropped ? 3 : WriteFile(lockedFile) ? 1 : 0);
     }
+    int status = 0;
+    ASSERT_EQ(waitpid(child, &status, 0), child);
+    ASSERT_TRUE(WIFEXITED(status));
+    saved = WEXITSTATUS(status);
   }
-  EXPECT_FALSE(WriteFile(lockedFile));
+  EXPECT_EQ(saved, 0) << "1: the save went through; 3: the child could not become nobody";
   EXPECT_EQ(ReadBytes(lockedFile), old);
+  EXPECT_EQ(TemporaryFilesIn(locked), 0);
   fs::permissions(locked, fs::perms::owner_all);
+}
+
+// A scrambled file is read in memory: neither its bytes nor its time change,
+// and a plain one is scrambled after reading.
+TEST_F(ScenarioFlow, AScrambledFileIsLeftUntouchedAndAPlainOneEndsScrambled) {
+  const std::string path = SavedScenario("game.mf1");
+  const std::string scrambled = ReadBytes(path);
+  const auto past = fs::last_write_time(path) - std::chrono::hours(24 * 400);
+  fs::last_write_time(path, past);
+  onlyclear();
+  ASSERT_TRUE(ReadFile(path));
+  EXPECT_EQ(Unit[2].Name, "2nd Rifles");
+  EXPECT_EQ(ReadBytes(path), scrambled);
+  EXPECT_EQ(fs::last_write_time(path), past);
+  ASSERT_TRUE(ImportFile(path));
+  EXPECT_EQ(ReadBytes(path), scrambled);
+  EXPECT_EQ(fs::last_write_time(path), past);
+
+  const std::string plainPath = TempPath("plain.mf1");
+  WriteBytes(plainPath, Flipped(scrambled));
+  fs::permissions(plainPath, fs::perms::owner_read | fs::perms::owner_write);
+  onlyclear();
+  ASSERT_TRUE(ReadFile(plainPath));
+  EXPECT_EQ(Unit[2].Name, "2nd Rifles");
+  EXPECT_EQ(ReadBytes(plainPath), scrambled);
+  EXPECT_EQ(fs::status(plainPath).permissions(), fs::perms::owner_read | fs::perms::owner_write);
+}
+
+// A path that stands but is no readable file is refused before the load
+// clears anything, and so is its import.
+TEST_F(ScenarioFlow, AFolderOrADeviceIsRefusedAndTheGameKept) {
+  SavedScenario("game.mf1");
+  const std::string folder = TempPath("folder.mf1");
+  fs::create_directories(folder);
+  dialogs.Clear();
+  EXPECT_FALSE(doGoLoad(folder));
+  EXPECT_FALSE(doGoLoad("/dev/null"));
+  EXPECT_FALSE(ImportFile(folder));
+  EXPECT_EQ(Shown(), (std::vector<std::string>{"Cannot read " + folder + ": it is a folder.",
+                                              "Cannot read /dev/null: it is not a regular file.",
+                                              "Cannot read " + folder + ": it is a folder."}));
+  EXPECT_EQ(Game.MapW, 12);
+  EXPECT_EQ(Unit[2].Name, "2nd Rifles");
+  EXPECT_EQ(Type[1].Name, "Rifles");
 }
 
 TEST_F(ScenarioFlow, ReadFileOfNoPathOrAMissingFile) {
