@@ -1,5 +1,6 @@
 #include "script_runner.h"
 
+#include <cstdlib>
 #include <exception>
 #include <filesystem>
 #include <ostream>
@@ -13,6 +14,8 @@
 #include "files/field_registry.h"
 #include "files/scenario_file.h"
 #include "model/arith.h"
+#include "model/game_state.h"
+#include "model/invariants.h"
 #include "model/reset.h"
 #include "model/rnd.h"
 #include "orders/command.h"
@@ -58,7 +61,8 @@ struct Run {
       if (tempDir.empty()) {
         std::random_device rd;
         tempDir = (fs::temp_directory_path() / ("mfscript_" + std::to_string(rd()) + std::to_string(rd()))).string();
-        fs::create_directories(tempDir);
+        std::error_code ec;
+        fs::create_directories(tempDir, ec);
       }
       return (fs::path(tempDir) / p.substr(p.size() > 4 ? 5 : 4)).lexically_normal().string();
     }
@@ -443,6 +447,25 @@ struct ProgramDirGuard {
   std::string dir;
 };
 
+// With MF_CHECK_INVARIANTS set (the test suite sets it), every end of a
+// regime's turn checks the game's invariants, and the first broken one fails
+// the script at the line that played the turn.
+struct InvariantWatch {
+  std::string problem;
+  InvariantWatch() {
+    const char* on = std::getenv("MF_CHECK_INVARIANTS");
+    if (on == nullptr || *on == '\0' || std::string(on) == "0") return;
+    SetTurnEndWatcher([this] {
+      if (!problem.empty()) return;
+      const std::string p = CheckInvariants();
+      if (!p.empty())
+        problem = "invariant broken when the turn of regime " + std::to_string(Game.CurRegime) + " in game turn " +
+                  std::to_string(Game.Turn) + " ended: " + p;
+    });
+  }
+  ~InvariantWatch() { SetTurnEndWatcher({}); }
+};
+
 // Puts the platform back to the built-in one however the run ends.
 struct PlatformGuard {
   explicit PlatformGuard(Platform* p) { InstallPlatform(p); }
@@ -458,6 +481,7 @@ int RunScriptText(const std::string& text, const std::string& name, const std::s
   PlatformGuard guard(&run.platform);
   ProgramDirGuard programDir;
   BattleLogPrinter battleLog(out);
+  InvariantWatch invariants;
   StartFresh();
 
   std::istringstream lines(text);
@@ -471,6 +495,10 @@ int RunScriptText(const std::string& text, const std::string& name, const std::s
       ok = RunLine(run, line, &why);
     } catch (const std::exception& e) {
       why = std::string("internal error: ") + e.what();
+    }
+    if (ok && !invariants.problem.empty()) {
+      ok = false;
+      why = invariants.problem;
     }
     if (!ok) {
       out.flush();
