@@ -9,6 +9,7 @@
 #include <random>
 #include <string>
 
+#include "control/scenario_flow.h"
 #include "files/json_io.h"
 #include "files/scenario_file.h"
 #include "model/engine_vars.h"

@@ -13,24 +13,24 @@
 #include <QScrollArea>
 #include <QVBoxLayout>
 
-#include "engine/turn_cycle.h"
-#include "files/scenario_file.h"
+#include "control/keyboard.h"
+#include "control/menu_state.h"
+#include "control/order_state.h"
+#include "control/scenario_flow.h"
+#include "control/selection.h"
+#include "control/turn_cycle.h"
 #include "map_widget.h"
 #include "minimap.h"
 #include "model/clear_dialog.h"
 #include "model/game_state.h"
 #include "model/hex_geometry.h"
 #include "orders/command.h"
-#include "orders/order_state.h"
 #include "platform/platform.h"
 #include "qt_canvas.h"
 #include "qt_platform.h"
 #include "side_panel.h"
 #include "view/canvas.h"
-#include "view/keyboard.h"
-#include "view/menu_state.h"
 #include "view/panel.h"
-#include "view/selection.h"
 #include "view/sprite_table.h"
 
 namespace mf::app {
@@ -409,6 +409,7 @@ void MainWindow::BuildMenus() {
   auto* zooms = new QActionGroup(this);
   zooms->addAction(zoom1);
   zooms->addAction(zoom2);
+  connect(map_, &MapWidget::ZoomChanged, this, [zoom1, zoom2](int z) { (z == 2 ? zoom2 : zoom1)->setChecked(true); });
   connect(zoom1, &QAction::triggered, this, [this] { map_->SetZoom(1); });
   connect(zoom2, &QAction::triggered, this, [this] { map_->SetZoom(2); });
   actions_["zoom1"] = zoom1;

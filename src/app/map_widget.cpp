@@ -4,12 +4,14 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPainterPath>
+#include <QWheelEvent>
+#include <cmath>
 
+#include "control/selection.h"
 #include "model/game_state.h"
 #include "model/hex_geometry.h"
 #include "model/reset.h"
 #include "view/draw_hex.h"
-#include "view/selection.h"
 
 namespace mf::app {
 namespace {
@@ -19,6 +21,9 @@ namespace {
 constexpr int kCanvasMarginW = 2 * kHexPicW;
 constexpr int kCanvasMarginH = 2 * kHexPicH;
 const QColor kMapBackground(24, 28, 34);
+// The edge of the hexes within reach of an order: a light line that stands
+// out on every terrain and every regime colour.
+const QColor kReachColour(130, 235, 255);
 
 }  // namespace
 
@@ -59,13 +64,23 @@ void MapWidget::SetZoom(int zoom) {
   ViewResized();
 }
 
+int MapWidget::DrawScale() const {
+  const double ratio = view_ ? view_->devicePixelRatioF() : 1.0;
+  const int dense = std::clamp(static_cast<int>(std::ceil(ratio - 0.01)), 1, 2);
+  return zoom_ * dense;
+}
+
 void MapWidget::ViewResized() {
   const int w = view_->width() / zoom_;
   const int h = view_->height() / zoom_;
   if (w < 1 || h < 1) return;
-  if (w == UI.ViewW && h == UI.ViewH && canvas_.image().width() == w + kCanvasMarginW) return;
+  const int scale = DrawScale();
+  if (w == UI.ViewW && h == UI.ViewH && canvas_.image().width() == (w + kCanvasMarginW) * scale &&
+      canvas_.Scale() == scale)
+    return;
   UI.ViewW = w;
   UI.ViewH = h;
+  canvas_.SetScale(scale);
   canvas_.Resize(w + kCanvasMarginW, h + kCanvasMarginH);
   UI.WindowWidth = window() ? window()->width() : UI.WindowWidth;
   setup();
@@ -145,6 +160,46 @@ void MapWidget::ScrollMoved(Qt::Orientation o, int value, bool dragging) {
   emit Acted();
 }
 
+bool MapWidget::ScrollBy(int dx, int dy) {
+  const Long x = std::clamp<Long>(UI.ScrollX + dx, 0, std::max<Long>(0, UI.ScrollMaxX));
+  const Long y = std::clamp<Long>(UI.ScrollY + dy, 0, std::max<Long>(0, UI.ScrollMaxY));
+  if (x == UI.ScrollX && y == UI.ScrollY) return false;
+  UI.ScrollX = x;
+  UI.ScrollY = y;
+  RequestRedraw(2);
+  emit Acted();
+  return true;
+}
+
+void MapWidget::Wheel(QWheelEvent* e) {
+  const QPoint turn = e->angleDelta();
+  if (e->modifiers() & Qt::ControlModifier) {
+    // Towards the player zooms in, away zooms out.
+    if (turn.y() > 0 && zoom_ != 2) {
+      SetZoom(2);
+      emit ZoomChanged(2);
+    } else if (turn.y() < 0 && zoom_ != 1) {
+      SetZoom(1);
+      emit ZoomChanged(1);
+    }
+    e->accept();
+    return;
+  }
+  // A notch (120 eighths of a degree) scrolls a row of hexes down or a
+  // column across; Shift turns the wheel sideways.
+  const bool across = (e->modifiers() & Qt::ShiftModifier) || (turn.y() == 0 && turn.x() != 0);
+  wheelRest_ += across ? (turn.x() != 0 ? turn.x() : turn.y()) : turn.y();
+  const int notches = wheelRest_ / 120;
+  wheelRest_ -= notches * 120;
+  if (notches != 0) {
+    if (across)
+      ScrollBy(-notches * 2 * kHexColumnW, 0);
+    else
+      ScrollBy(0, -notches * 2 * kHexRowH);
+  }
+  e->accept();
+}
+
 void MapWidget::ScrollReleased() {
   if (UI.ScrollPending == 0) return;
   UI.ScrollPending = 0;
@@ -168,11 +223,20 @@ void MapView::paintEvent(QPaintEvent*) {
     return;
   }
   const QImage& img = owner_->canvas_.image();
-  const QRect source(0, 0, width() / z + 1, height() / z + 1);
+  // The picture is drawn at the view's density: one image pixel per screen
+  // pixel, nothing enlarged.
+  const int s = owner_->canvas_.Scale();
+  const int lw = width() / z + 1, lh = height() / z + 1;
+  const QRect source(0, 0, lw * s, lh * s);
   const int dx = static_cast<int>(owner_->drawnScrollX_ - UI.ScrollX) * z;
   const int dy = static_cast<int>(owner_->drawnScrollY_ - UI.ScrollY) * z;
   if (dx != 0 || dy != 0) p.fillRect(rect(), kMapBackground);
-  p.drawImage(QRect(dx, dy, source.width() * z, source.height() * z), img, source);
+  p.drawImage(QRectF(dx, dy, lw * z, lh * z), img, source);
+  if (s != owner_->DrawScale()) {
+    // The window moved to a screen of another density: draw again for it.
+    QMetaObject::invokeMethod(owner_, [o = owner_] { o->ViewResized(); }, Qt::QueuedConnection);
+  }
+  if (dx == 0 && dy == 0) DrawReachOutline(p);
 
   // The selected hex: an outline over the picture, so that selecting never
   // needs the hexes repainted just for the highlight.
@@ -194,6 +258,40 @@ void MapView::paintEvent(QPaintEvent*) {
     p.drawPath(path);
   }
 }
+
+void MapView::DrawReachOutline(QPainter& p) {
+  if (!RangeModeOn() || UI.EditMode == 1) return;
+  const int z = owner_->zoom_;
+  // Corners of a hex from its centre, in the order of its sides: side k
+  // runs from corner k - 1 to corner k (side 1 north-west, clockwise).
+  static const QPoint kCorner[6] = {{-21, -10}, {0, -20}, {21, -10}, {21, 10}, {0, 20}, {-21, 10}};
+  auto reach = [](int x, int y) { return ValidHex(x, y) && Hex[x][y].Mark < 999; };
+  QPainterPath edge;
+  const int w = Game.MapW < kMapCap ? static_cast<int>(Game.MapW) : kMapCap;
+  const int h = Game.MapH < kMapCap ? static_cast<int>(Game.MapH) : kMapCap;
+  const QRect seen = rect().adjusted(-50 * z, -50 * z, 50 * z, 50 * z);
+  for (int x = 1; x <= w; ++x) {
+    for (int y = 1; y <= h; ++y) {
+      if (!reach(x, y)) continue;
+      const QPoint c = owner_->HexCentreOnView(x, y);
+      if (!seen.contains(c)) continue;
+      for (int side = 1; side <= kHexSides; ++side) {
+        const HexXY n = Neighbour(x, y, side);
+        if (reach(n.x, n.y)) continue;
+        edge.moveTo(c + kCorner[side - 1] * z);
+        edge.lineTo(c + kCorner[side % 6] * z);
+      }
+    }
+  }
+  if (edge.isEmpty()) return;
+  p.setRenderHint(QPainter::Antialiasing, true);
+  p.setPen(QPen(QColor(0, 0, 0, 170), 3.5 * z, Qt::SolidLine, Qt::RoundCap));
+  p.drawPath(edge);
+  p.setPen(QPen(kReachColour, 1.6 * z, Qt::SolidLine, Qt::RoundCap));
+  p.drawPath(edge);
+}
+
+void MapView::wheelEvent(QWheelEvent* e) { owner_->Wheel(e); }
 
 void MapView::resizeEvent(QResizeEvent*) { owner_->ViewResized(); }
 

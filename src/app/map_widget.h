@@ -19,6 +19,10 @@ class MapWidget : public QWidget {
   // 1 or 2: every picture unit shows as zoom x zoom pixels.
   void SetZoom(int zoom);
   int Zoom() const { return zoom_; }
+  // The density the map is drawn at: the zoom times the screen's pixel
+  // ratio (rounded up), so that a 2x zoom or a dense screen gets pictures
+  // drawn at that size rather than enlarged ones.
+  int DrawScale() const;
   // Puts the bars in line with the UI scroll fields and the picture with the
   // size of the view; called by the window whenever it syncs.
   void SyncFromGame();
@@ -37,6 +41,8 @@ class MapWidget : public QWidget {
   // A press of a mouse button on hex (x, y) (zeros off the map), with the
   // game's button number; the window runs it as a command of the player.
   void HexPressed(int x, int y, int button);
+  // Ctrl and the mouse wheel changed the zoom.
+  void ZoomChanged(int zoom);
 
  private:
   friend class MapView;
@@ -44,6 +50,10 @@ class MapWidget : public QWidget {
   void Pressed(QPoint pos, Qt::MouseButton button);
   void ScrollMoved(Qt::Orientation o, int value, bool dragging);
   void ScrollReleased();
+  // The wheel scrolls (with Shift or a sideways wheel across), with Ctrl zooms.
+  void Wheel(QWheelEvent* e);
+  // Scrolls by (dx, dy) picture units within the ranges; true when it moved.
+  bool ScrollBy(int dx, int dy);
 
   MapView* view_ = nullptr;
   QScrollBar* hbar_ = nullptr;
@@ -57,6 +67,7 @@ class MapWidget : public QWidget {
   bool syncing_ = false;
   bool syncQueued_ = false;
   bool interactive_ = true;
+  int wheelRest_ = 0;  // eighths of a degree not yet turned into a step
 };
 
 // The picture itself.
@@ -69,8 +80,11 @@ class MapView : public QWidget {
   void paintEvent(QPaintEvent*) override;
   void resizeEvent(QResizeEvent*) override;
   void mousePressEvent(QMouseEvent*) override;
+  void wheelEvent(QWheelEvent*) override;
 
  private:
+  // The edge of the hexes within reach of the order under way.
+  void DrawReachOutline(QPainter& p);
   MapWidget* owner_;
 };
 

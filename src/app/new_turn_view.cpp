@@ -14,9 +14,9 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include "control/new_turn_dialog.h"
 #include "dialog_keys.h"
 #include "dialog_views.h"
-#include "engine/new_turn_dialog.h"
 
 namespace mf::app {
 namespace {

@@ -13,13 +13,31 @@ SpriteStore& Sprites() {
   return store;
 }
 
+namespace {
+
+// White is see-through on the map.
+void MaskWhite(QImage& img) {
+  img = img.convertToFormat(QImage::Format_ARGB32);
+  const int w = img.width();
+  for (int y = 0; y < img.height(); ++y) {
+    auto* line = reinterpret_cast<QRgb*>(img.scanLine(y));
+    for (int x = 0; x < w; ++x) {
+      if ((line[x] & 0x00FFFFFFu) == 0x00FFFFFFu) line[x] = 0;
+    }
+  }
+}
+
+}  // namespace
+
 bool SpriteStore::Stale() const { return loadCount_ != mf::SpriteLoadCount(); }
 
 bool SpriteStore::Reload() {
   loadCount_ = mf::SpriteLoadCount();
   pixmaps_.assign(mf::kSpriteCap + 1, QPixmap());
+  pixmaps2x_.assign(mf::kSpriteCap + 1, QPixmap());
   problem_.clear();
   loaded_ = 0;
+  loaded2x_ = 0;
   const mf::SpriteLoadResult& result = mf::LastSpriteLoad();
   if (!result.ok) problem_ = QString::fromStdString(mf::SpriteLoadMessage(result));
   for (int n = 1; n <= mf::kSpriteCap; ++n) {
@@ -35,18 +53,20 @@ bool SpriteStore::Reload() {
       }
       continue;
     }
-    if (slot.masked) {
-      img = img.convertToFormat(QImage::Format_ARGB32);
-      const int w = img.width();
-      for (int y = 0; y < img.height(); ++y) {
-        auto* line = reinterpret_cast<QRgb*>(img.scanLine(y));
-        for (int x = 0; x < w; ++x) {
-          if ((line[x] & 0x00FFFFFFu) == 0x00FFFFFFu) line[x] = 0;
-        }
-      }
-    }
+    img.setDevicePixelRatio(1);
+    if (slot.masked) MaskWhite(img);
     pixmaps_[n] = QPixmap::fromImage(img);
     ++loaded_;
+    // The same picture drawn at twice the size, when the folder has it.
+    const QFileInfo info(QString::fromStdString(slot.path));
+    const QString twice = info.absolutePath() + "/" + info.completeBaseName() + "@2x." + info.suffix();
+    QImage img2(twice);
+    if (!img2.isNull() && img2.width() == 2 * img.width() && img2.height() == 2 * img.height()) {
+      if (slot.masked) MaskWhite(img2);
+      img2.setDevicePixelRatio(2);
+      pixmaps2x_[n] = QPixmap::fromImage(img2);
+      ++loaded2x_;
+    }
   }
   return problem_.isEmpty();
 }
@@ -56,6 +76,11 @@ const QPixmap& SpriteStore::Get(int n) const {
   return pixmaps_[n];
 }
 
+const QPixmap& SpriteStore::Get(int n, int scale) const {
+  if (scale >= 2 && n >= 0 && n < static_cast<int>(pixmaps2x_.size()) && !pixmaps2x_[n].isNull()) return pixmaps2x_[n];
+  return Get(n);
+}
+
 QImage SpriteStore::Image(int n) const { return Get(n).toImage(); }
 
 QColor GameColour(mf::Colour colour) {
@@ -63,20 +88,40 @@ QColor GameColour(mf::Colour colour) {
                 static_cast<int>((colour >> 16) & 0xFF));
 }
 
-ImageCanvas::ImageCanvas(int w, int h, QColor background)
-    : image_(w, h, QImage::Format_ARGB32_Premultiplied), background_(background) {
+ImageCanvas::ImageCanvas(int w, int h, QColor background, int scale)
+    : image_(w * scale, h * scale, QImage::Format_ARGB32_Premultiplied),
+      background_(background),
+      scale_(scale),
+      w_(w),
+      h_(h) {
   image_.fill(background_);
 }
 
 void ImageCanvas::Resize(int w, int h) {
   End();
-  if (w == image_.width() && h == image_.height()) return;
-  image_ = QImage(w, h, QImage::Format_ARGB32_Premultiplied);
+  if (w == w_ && h == h_ && image_.width() == w * scale_ && image_.height() == h * scale_) return;
+  w_ = w;
+  h_ = h;
+  image_ = QImage(w * scale_, h * scale_, QImage::Format_ARGB32_Premultiplied);
+  image_.fill(background_);
+}
+
+void ImageCanvas::SetScale(int scale) {
+  if (scale < 1) scale = 1;
+  if (scale == scale_) return;
+  scale_ = scale;
+  End();
+  image_ = QImage(w_ * scale_, h_ * scale_, QImage::Format_ARGB32_Premultiplied);
   image_.fill(background_);
 }
 
 QPainter& ImageCanvas::P() {
-  if (!painter_) painter_ = std::make_unique<QPainter>(&image_);
+  if (!painter_) {
+    painter_ = std::make_unique<QPainter>(&image_);
+    painter_->scale(scale_, scale_);
+    painter_->setRenderHint(QPainter::SmoothPixmapTransform, true);
+    painter_->setRenderHint(QPainter::TextAntialiasing, true);
+  }
   return *painter_;
 }
 
@@ -95,7 +140,9 @@ void ImageCanvas::Clear() {
 void ImageCanvas::Blit(int sprite, int left, int top) {
   const QPixmap& pm = Sprites().Get(sprite);
   if (pm.isNull()) return;
-  P().drawPixmap(left, top, pm);
+  const QPixmap& drawn = Sprites().Get(sprite, scale_);
+  // Always the picture's own size in picture units, at whatever density.
+  P().drawPixmap(QRectF(left, top, pm.width(), pm.height()), drawn, QRectF(0, 0, drawn.width(), drawn.height()));
 }
 
 void ImageCanvas::Line(int x1, int y1, int x2, int y2, mf::Colour colour) {
@@ -107,13 +154,30 @@ void ImageCanvas::Line(int x1, int y1, int x2, int y2, mf::Colour colour) {
 void ImageCanvas::Text(const std::string& text, int x, int y, const std::string& font, int size,
                        mf::Colour colour) {
   QPainter& p = P();
-  // "Small Fonts" was a tiny bitmap face; a small sans face stands in for it.
-  QFont f(font == "Small Fonts" ? QString("DejaVu Sans") : QString::fromStdString(font));
-  f.setPixelSize(size <= 7 ? 9 : size + 3);
+  // The map's figures are small: the counter figures ("Small Fonts", a tiny
+  // bitmap face once) in a narrow bold face that fits the counter's band,
+  // the supply figures a little larger. Both must read at 1x.
+  const bool figures = font == "Small Fonts";
+  QFont f(figures ? QString("DejaVu Sans") : QString::fromStdString(font));
+  f.setBold(true);
+  f.setStretch(figures ? QFont::Condensed : QFont::SemiCondensed);
+  f.setPixelSize(figures ? 8 : (size <= 9 ? 9 : size + 1));
+  f.setHintingPreference(scale_ == 1 ? QFont::PreferFullHinting : QFont::PreferNoHinting);
   p.setFont(f);
-  p.setPen(GameColour(colour));
   const QFontMetrics fm(f);
-  p.drawText(x, y + fm.ascent(), QString::fromStdString(text));
+  const QString t = QString::fromStdString(text);
+  const QColor ink = GameColour(colour);
+  if (!figures) {
+    // Figures over the terrain get a halo of the opposite lightness, so
+    // green reads on grass and black on forest.
+    const QColor halo = ink.lightness() > 110 ? QColor(10, 14, 18, 230) : QColor(250, 246, 230, 230);
+    p.setPen(halo);
+    for (int dx = -1; dx <= 1; ++dx)
+      for (int dy = -1; dy <= 1; ++dy)
+        if (dx != 0 || dy != 0) p.drawText(x + dx, y + dy + fm.ascent(), t);
+  }
+  p.setPen(ink);
+  p.drawText(x, y + fm.ascent(), t);
 }
 
 }  // namespace mf::app

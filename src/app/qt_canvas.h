@@ -25,6 +25,12 @@ class SpriteStore {
   // True when the sprite table has been loaded again since the last Reload.
   bool Stale() const;
   const QPixmap& Get(int n) const;
+  // The picture for drawing at a scale: from 2 on the picture drawn at twice
+  // the size (NAME@2x beside NAME), when the folder has one; else the
+  // ordinary one. Either way its device-independent size is the ordinary.
+  const QPixmap& Get(int n, int scale) const;
+  // Number of pictures that have a 2x form.
+  int LoadedTwice() const { return loaded2x_; }
   // The picture as an image, for reading colours (minimap, tests).
   QImage Image(int n) const;
   const QString& Problem() const { return problem_; }
@@ -32,10 +38,12 @@ class SpriteStore {
 
  private:
   std::vector<QPixmap> pixmaps_;
+  std::vector<QPixmap> pixmaps2x_;
   QPixmap empty_;
   QString problem_;
   long loadCount_ = -1;
   int loaded_ = 0;
+  int loaded2x_ = 0;
 };
 
 SpriteStore& Sprites();
@@ -44,11 +52,17 @@ SpriteStore& Sprites();
 QColor GameColour(mf::Colour colour);
 
 // A canvas painting onto an image. The painter stays open between calls;
-// End() closes it before the image is shown.
+// End() closes it before the image is shown. The game draws in picture units;
+// at a scale above 1 the image has scale x scale pixels per unit, and the
+// pictures, lines and figures are drawn at that density (the 2x pictures from
+// 2 on), not enlarged afterwards.
 class ImageCanvas : public mf::Canvas {
  public:
-  ImageCanvas(int w, int h, QColor background);
+  ImageCanvas(int w, int h, QColor background, int scale = 1);
+  // Size in picture units.
   void Resize(int w, int h);
+  void SetScale(int scale);
+  int Scale() const { return scale_; }
   void End();
   const QImage& image() const { return image_; }
   QImage& image() { return image_; }
@@ -62,6 +76,8 @@ class ImageCanvas : public mf::Canvas {
   QPainter& P();
   QImage image_;
   QColor background_;
+  int scale_ = 1;
+  int w_ = 0, h_ = 0;
   std::unique_ptr<QPainter> painter_;
 };
 

@@ -30,11 +30,13 @@ QPixmap CounterPixmap(int picture, int badge, int scale) {
   out.fill(Qt::transparent);
   QPainter p(&out);
   p.scale(scale, scale);
-  const QPixmap& pm = Sprites().Get(picture);
-  if (!pm.isNull()) p.drawPixmap(0, 0, pm);
-  if (badge > 0) {
-    const QPixmap& b = Sprites().Get(badge);
-    if (!b.isNull()) p.drawPixmap(0, 0, b);
+  p.setRenderHint(QPainter::SmoothPixmapTransform, true);
+  // The big picture takes the pictures drawn at twice the size.
+  for (int sprite : {picture, badge}) {
+    if (sprite <= 0) continue;
+    const QPixmap& pm = Sprites().Get(sprite);
+    const QPixmap& drawn = Sprites().Get(sprite, scale);
+    if (!pm.isNull()) p.drawPixmap(QRectF(0, 0, pm.width(), pm.height()), drawn, QRectF(drawn.rect()));
   }
   return out;
 }
@@ -69,7 +71,7 @@ QLabel* SidePanel::Add(const char* name, QWidget* parent, bool bold) {
   return l;
 }
 
-SidePanel::SidePanel(QWidget* parent) : QFrame(parent), hexCanvas_(43, 41, QColor(0, 0, 0, 0)) {
+SidePanel::SidePanel(QWidget* parent) : QFrame(parent), hexCanvas_(43, 41, QColor(0, 0, 0, 0), 2) {
   setObjectName("sidePanel");
   auto* outer = new QVBoxLayout(this);
   outer->setContentsMargins(8, 6, 8, 6);
@@ -275,7 +277,7 @@ void SidePanel::ShowContent() {
     pictureCaption_->setText(Q(p.unitName));
   } else if (p.hexPictureShown) {
     hexCanvas_.End();
-    bigPicture_->setPixmap(QPixmap::fromImage(hexCanvas_.image()).scaled(86, 82));
+    bigPicture_->setPixmap(QPixmap::fromImage(hexCanvas_.image()));
     pictureCaption_->setText(Q(p.hexCaption));
   } else {
     bigPicture_->clear();

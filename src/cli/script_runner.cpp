@@ -9,23 +9,23 @@
 #include <vector>
 
 #include "combat/battle_window.h"
+#include "control/keyboard.h"
+#include "control/order_state.h"
+#include "control/scenario_flow.h"
+#include "control/selection.h"
+#include "control/turn_cycle.h"
 #include "engine/show_supply.h"
-#include "engine/turn_cycle.h"
 #include "files/field_registry.h"
-#include "files/scenario_file.h"
 #include "model/arith.h"
 #include "model/game_state.h"
 #include "model/invariants.h"
 #include "model/reset.h"
 #include "model/rnd.h"
 #include "orders/command.h"
-#include "orders/order_state.h"
 #include "platform/paths.h"
 #include "platform/scripted_platform.h"
 #include "script_tokenizer.h"
 #include "session.h"
-#include "view/keyboard.h"
-#include "view/selection.h"
 
 namespace fs = std::filesystem;
 

@@ -16,9 +16,10 @@
 #include <functional>
 
 #include "app_fixture.h"
+#include "control/new_turn_dialog.h"
+#include "control/scenario_flow.h"
+#include "control/turn_cycle.h"
 #include "dialog_views.h"
-#include "engine/new_turn_dialog.h"
-#include "engine/turn_cycle.h"
 #include "files/scenario_file.h"
 #include "map_widget.h"
 #include "minimap.h"

@@ -12,8 +12,8 @@
 #include <functional>
 
 #include "app_fixture.h"
+#include "control/new_turn_dialog.h"
 #include "dialog_views.h"
-#include "engine/new_turn_dialog.h"
 #include "engine/start_game_dialog.h"
 #include "model/game_state.h"
 #include "support/core_test.h"

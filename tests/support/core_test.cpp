@@ -3,7 +3,7 @@
 #include <filesystem>
 #include <random>
 
-#include "engine/turn_cycle.h"
+#include "control/turn_cycle.h"
 #include "model/engine_vars.h"
 #include "model/invariants.h"
 #include "model/reset.h"

@@ -161,11 +161,22 @@ float Noise(float x, float y, int seed) {
   return a + (b - a) * sx + (c - a) * sy + (a - b - c + d) * sx * sy;
 }
 
-Canvas::Canvas(int w, int h) : w_(w), h_(h), px_(static_cast<std::size_t>(w) * h) {}
+namespace {
+int g_drawScale = 1;
+constexpr float kSub[4] = {-0.375f, -0.125f, 0.125f, 0.375f};
+}  // namespace
 
-void Canvas::Blend(int x, int y, RGB c, float cover) {
-  if (x < 0 || y < 0 || x >= w_ || y >= h_ || cover <= 0) return;
-  Px& p = px_[static_cast<std::size_t>(y) * w_ + x];
+void SetDrawScale(int scale) { g_drawScale = scale < 1 ? 1 : scale; }
+int DrawScale() { return g_drawScale; }
+
+Canvas::Canvas(int w, int h) : Canvas(w, h, g_drawScale) {}
+
+Canvas::Canvas(int w, int h, int scale)
+    : w_(w), h_(h), s_(scale < 1 ? 1 : scale), W_(w * s_), H_(h * s_), px_(static_cast<std::size_t>(W_) * H_) {}
+
+void Canvas::Blend(int X, int Y, RGB c, float cover) {
+  if (X < 0 || Y < 0 || X >= W_ || Y >= H_ || cover <= 0) return;
+  Px& p = px_[static_cast<std::size_t>(Y) * W_ + X];
   p.r = c.r * cover + p.r * (1 - cover);
   p.g = c.g * cover + p.g * (1 - cover);
   p.b = c.b * cover + p.b * (1 - cover);
@@ -173,23 +184,39 @@ void Canvas::Blend(int x, int y, RGB c, float cover) {
 }
 
 namespace {
-constexpr float kSub[4] = {-0.375f, -0.125f, 0.125f, 0.375f};
+
+// The fine pixels a shape's box may touch, one drawing pixel of slack around it.
+void FineBox(const Shape& sh, int s, int W, int H, int& X0, int& Y0, int& X1, int& Y1) {
+  X0 = std::max(0, (static_cast<int>(std::floor(sh.x0)) - 1) * s);
+  Y0 = std::max(0, (static_cast<int>(std::floor(sh.y0)) - 1) * s);
+  X1 = std::min(W - 1, (static_cast<int>(std::ceil(sh.x1)) + 2) * s - 1);
+  Y1 = std::min(H - 1, (static_cast<int>(std::ceil(sh.y1)) + 2) * s - 1);
 }
 
-void Canvas::FillFn(const Shape& s, const std::function<RGB(float, float)>& colour, float opacity) {
-  const int x0 = std::max(0, static_cast<int>(std::floor(s.x0)) - 1);
-  const int y0 = std::max(0, static_cast<int>(std::floor(s.y0)) - 1);
-  const int x1 = std::min(w_ - 1, static_cast<int>(std::ceil(s.x1)) + 1);
-  const int y1 = std::min(h_ - 1, static_cast<int>(std::ceil(s.y1)) + 1);
-  for (int y = y0; y <= y1; ++y) {
-    for (int x = x0; x <= x1; ++x) {
-      int hits = 0;
-      for (float dy : kSub) {
-        for (float dx : kSub) {
-          if (s.inside(x + dx, y + dy)) ++hits;
-        }
-      }
-      if (hits) Blend(x, y, colour(static_cast<float>(x), static_cast<float>(y)), opacity * hits / 16.0f);
+// The centre of fine pixel X in drawing coordinates.
+float FineCentre(int X, int s) { return (X + 0.5f) / s - 0.5f; }
+
+int Hits(const Shape& sh, float cx, float cy, int s) {
+  int hits = 0;
+  for (float dy : kSub) {
+    for (float dx : kSub) {
+      if (sh.inside(cx + dx / s, cy + dy / s)) ++hits;
+    }
+  }
+  return hits;
+}
+
+}  // namespace
+
+void Canvas::FillFn(const Shape& sh, const std::function<RGB(float, float)>& colour, float opacity) {
+  int X0, Y0, X1, Y1;
+  FineBox(sh, s_, W_, H_, X0, Y0, X1, Y1);
+  for (int Y = Y0; Y <= Y1; ++Y) {
+    const float cy = FineCentre(Y, s_);
+    for (int X = X0; X <= X1; ++X) {
+      const float cx = FineCentre(X, s_);
+      const int hits = Hits(sh, cx, cy, s_);
+      if (hits) Blend(X, Y, colour(cx, cy), opacity * hits / 16.0f);
     }
   }
 }
@@ -210,21 +237,14 @@ void Canvas::Block(int x0, int y0, int x1, int y1, RGB c) {
   }
 }
 
-void Canvas::Darken(const Shape& s, float f) {
-  const int x0 = std::max(0, static_cast<int>(std::floor(s.x0)) - 1);
-  const int y0 = std::max(0, static_cast<int>(std::floor(s.y0)) - 1);
-  const int x1 = std::min(w_ - 1, static_cast<int>(std::ceil(s.x1)) + 1);
-  const int y1 = std::min(h_ - 1, static_cast<int>(std::ceil(s.y1)) + 1);
-  for (int y = y0; y <= y1; ++y) {
-    for (int x = x0; x <= x1; ++x) {
-      int hits = 0;
-      for (float dy : kSub) {
-        for (float dx : kSub) {
-          if (s.inside(x + dx, y + dy)) ++hits;
-        }
-      }
+void Canvas::Darken(const Shape& sh, float f) {
+  int X0, Y0, X1, Y1;
+  FineBox(sh, s_, W_, H_, X0, Y0, X1, Y1);
+  for (int Y = Y0; Y <= Y1; ++Y) {
+    for (int X = X0; X <= X1; ++X) {
+      const int hits = Hits(sh, FineCentre(X, s_), FineCentre(Y, s_), s_);
       const float k = 1 - (1 - f) * hits / 16.0f;
-      Px& p = px_[static_cast<std::size_t>(y) * w_ + x];
+      Px& p = px_[static_cast<std::size_t>(Y) * W_ + X];
       p.r *= k;
       p.g *= k;
       p.b *= k;
@@ -233,12 +253,15 @@ void Canvas::Darken(const Shape& s, float f) {
 }
 
 void Canvas::Draw(const Canvas& src, int ox, int oy) {
-  for (int y = 0; y < src.h_; ++y) {
-    for (int x = 0; x < src.w_; ++x) {
-      const Px& s = src.px_[static_cast<std::size_t>(y) * src.w_ + x];
-      const int tx = ox + x, ty = oy + y;
-      if (tx < 0 || ty < 0 || tx >= w_ || ty >= h_ || s.a <= 0) continue;
-      Px& d = px_[static_cast<std::size_t>(ty) * w_ + tx];
+  // Both at one scale: the pictures of one run are drawn at one scale.
+  const int k = src.s_ == s_ ? 1 : 0;
+  if (!k) return;
+  for (int Y = 0; Y < src.H_; ++Y) {
+    for (int X = 0; X < src.W_; ++X) {
+      const Px& s = src.px_[static_cast<std::size_t>(Y) * src.W_ + X];
+      const int tx = ox * s_ + X, ty = oy * s_ + Y;
+      if (tx < 0 || ty < 0 || tx >= W_ || ty >= H_ || s.a <= 0) continue;
+      Px& d = px_[static_cast<std::size_t>(ty) * W_ + tx];
       d.r = s.r + d.r * (1 - s.a);
       d.g = s.g + d.g * (1 - s.a);
       d.b = s.b + d.b * (1 - s.a);
@@ -248,33 +271,55 @@ void Canvas::Draw(const Canvas& src, int ox, int oy) {
 }
 
 void Canvas::Clip(const std::function<bool(int, int)>& keep) {
-  for (int y = 0; y < h_; ++y) {
-    for (int x = 0; x < w_; ++x) {
-      if (!keep(x, y)) px_[static_cast<std::size_t>(y) * w_ + x] = Px{};
+  for (int Y = 0; Y < H_; ++Y) {
+    for (int X = 0; X < W_; ++X) {
+      if (!keep(X / s_, Y / s_)) px_[static_cast<std::size_t>(Y) * W_ + X] = Px{};
     }
   }
 }
 
-float Canvas::Alpha(int x, int y) const {
-  if (x < 0 || y < 0 || x >= w_ || y >= h_) return 0;
-  return px_[static_cast<std::size_t>(y) * w_ + x].a;
+void Canvas::ClipToHexOutline() {
+  ForEachFine([this](const Fine& p) {
+    if (!InHexFine(p, s_)) px_[static_cast<std::size_t>(p.Y) * W_ + p.X] = Px{};
+  });
 }
 
-RGB Canvas::At(int x, int y) const {
-  if (x < 0 || y < 0 || x >= w_ || y >= h_) return RGB{1, 1, 1};
-  const Px& p = px_[static_cast<std::size_t>(y) * w_ + x];
+float Canvas::Alpha(int x, int y) const { return FineAlpha(x * s_, y * s_); }
+
+RGB Canvas::At(int x, int y) const { return FineAt(x * s_, y * s_); }
+
+void Canvas::Set(int x, int y, RGB c) {
+  if (x < 0 || y < 0 || x >= w_ || y >= h_) return;
+  for (int j = 0; j < s_; ++j)
+    for (int i = 0; i < s_; ++i) FineSet(x * s_ + i, y * s_ + j, c);
+}
+
+void Canvas::ForEachFine(const std::function<void(const Fine&)>& f) const {
+  for (int Y = 0; Y < H_; ++Y) {
+    for (int X = 0; X < W_; ++X) f(Fine{X, Y, X / s_, Y / s_, FineCentre(X, s_), FineCentre(Y, s_)});
+  }
+}
+
+float Canvas::FineAlpha(int X, int Y) const {
+  if (X < 0 || Y < 0 || X >= W_ || Y >= H_) return 0;
+  return px_[static_cast<std::size_t>(Y) * W_ + X].a;
+}
+
+RGB Canvas::FineAt(int X, int Y) const {
+  if (X < 0 || Y < 0 || X >= W_ || Y >= H_) return RGB{1, 1, 1};
+  const Px& p = px_[static_cast<std::size_t>(Y) * W_ + X];
   if (p.a <= 0) return RGB{1, 1, 1};
   return RGB{p.r / p.a, p.g / p.a, p.b / p.a};
 }
 
-void Canvas::Set(int x, int y, RGB c) {
-  if (x < 0 || y < 0 || x >= w_ || y >= h_) return;
-  px_[static_cast<std::size_t>(y) * w_ + x] = Px{c.r, c.g, c.b, 1};
+void Canvas::FineSet(int X, int Y, RGB c) {
+  if (X < 0 || Y < 0 || X >= W_ || Y >= H_) return;
+  px_[static_cast<std::size_t>(Y) * W_ + X] = Px{c.r, c.g, c.b, 1};
 }
 
 std::vector<std::uint8_t> Canvas::BmpBytes(bool masked) const {
-  const int stride = (w_ * 3 + 3) / 4 * 4;
-  const std::uint32_t dataSize = static_cast<std::uint32_t>(stride * h_);
+  const int stride = (W_ * 3 + 3) / 4 * 4;
+  const std::uint32_t dataSize = static_cast<std::uint32_t>(stride * H_);
   std::vector<std::uint8_t> out(54 + dataSize, 0);
   auto put = [&](std::size_t at, std::uint32_t v, int bytes) {
     for (int i = 0; i < bytes; ++i) out[at + i] = static_cast<std::uint8_t>(v >> (8 * i));
@@ -284,18 +329,18 @@ std::vector<std::uint8_t> Canvas::BmpBytes(bool masked) const {
   put(2, 54 + dataSize, 4);
   put(10, 54, 4);
   put(14, 40, 4);
-  put(18, static_cast<std::uint32_t>(w_), 4);
-  put(22, static_cast<std::uint32_t>(h_), 4);
+  put(18, static_cast<std::uint32_t>(W_), 4);
+  put(22, static_cast<std::uint32_t>(H_), 4);
   put(26, 1, 2);
   put(28, 24, 2);
   put(34, dataSize, 4);
   put(38, 2835, 4);
   put(42, 2835, 4);
   auto byte = [](float v) { return static_cast<std::uint8_t>(std::clamp(std::lround(v * 255.0f), 0L, 255L)); };
-  for (int y = 0; y < h_; ++y) {
-    const std::size_t row = 54 + static_cast<std::size_t>(h_ - 1 - y) * stride;
-    for (int x = 0; x < w_; ++x) {
-      const Px& p = px_[static_cast<std::size_t>(y) * w_ + x];
+  for (int y = 0; y < H_; ++y) {
+    const std::size_t row = 54 + static_cast<std::size_t>(H_ - 1 - y) * stride;
+    for (int x = 0; x < W_; ++x) {
+      const Px& p = px_[static_cast<std::size_t>(y) * W_ + x];
       std::uint8_t r, g, b;
       if (masked) {
         if (p.a < 0.5f) {
@@ -330,6 +375,18 @@ bool Canvas::WriteBmp(const std::string& path, bool masked) const {
 bool InHex(int x, int y) {
   if (x < 0 || x > 42 || y < 0 || y > 40) return false;
   return 10 * x + 21 * y >= 210 && 10 * x - 21 * y <= 210 && 10 * x + 21 * y <= 1050 && 21 * y - 10 * x <= 630;
+}
+
+bool InHexFine(const Canvas::Fine& p, int scale) {
+  if (scale <= 1) return InHex(p.x, p.y);
+  // The whole-pixel test on the fine centre, with the half pixel that the
+  // edge pixels add at scale 1 (the four slanted sides have the normal
+  // length sqrt(10 * 10 + 21 * 21)).
+  const float x = p.fx, y = p.fy;
+  constexpr float e = 0.5f * 23.26f;
+  if (x < -0.5f || x > 42.5f || y < -0.5f || y > 40.5f) return false;
+  return 10 * x + 21 * y >= 210 - e && 10 * x - 21 * y <= 210 + e && 10 * x + 21 * y <= 1050 + e &&
+         21 * y - 10 * x <= 630 + e;
 }
 
 namespace {

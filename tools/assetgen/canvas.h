@@ -3,6 +3,11 @@
 //
 // Coordinates are pixel numbers: pixel (x, y) has its centre at (x, y). A hex
 // picture is 43 x 41 with its centre at (21, 20).
+//
+// A canvas may hold its picture at a finer scale (2 for the high-density
+// pictures): every drawing call still speaks in the coordinates above, and
+// each of those pixels is then scale x scale pixels of the written file, so
+// shapes come out sharp rather than enlarged.
 #pragma once
 
 #include <cstdint>
@@ -56,11 +61,17 @@ Shape Union(Shape a, Shape b);
 float Hash(int x, int y, int seed);
 float Noise(float x, float y, int seed);
 
+// The scale new canvases are made at (1 unless set).
+void SetDrawScale(int scale);
+int DrawScale();
+
 class Canvas {
  public:
   Canvas(int w, int h);
+  Canvas(int w, int h, int scale);
   int Width() const { return w_; }
   int Height() const { return h_; }
+  int Scale() const { return s_; }
 
   // Paints the shape in a colour, with an opacity 0..1.
   void Fill(const Shape& s, RGB c, float opacity = 1.0f);
@@ -76,12 +87,27 @@ class Canvas {
   void Draw(const Canvas& src, int x, int y);
   // Every pixel outside the test becomes empty.
   void Clip(const std::function<bool(int, int)>& keep);
+  // Every fine pixel outside the hex outline becomes empty.
+  void ClipToHexOutline();
 
-  // Coverage and colour of a pixel (colour not premultiplied).
+  // Coverage and colour of a pixel (colour not premultiplied); at a finer
+  // scale, of the first of its fine pixels.
   float Alpha(int x, int y) const;
   RGB At(int x, int y) const;
-  // Sets a pixel to a colour, fully covered.
+  // Sets a pixel to a colour, fully covered (all its fine pixels).
   void Set(int x, int y, RGB c);
+
+  // Every fine pixel (X, Y) of the picture, with the pixel (x, y) it belongs
+  // to and its centre (fx, fy) in drawing coordinates. At scale 1 these are
+  // all the same numbers.
+  struct Fine {
+    int X, Y, x, y;
+    float fx, fy;
+  };
+  void ForEachFine(const std::function<void(const Fine&)>& f) const;
+  float FineAlpha(int X, int Y) const;
+  RGB FineAt(int X, int Y) const;
+  void FineSet(int X, int Y, RGB c);
 
   // Writes a 24-bit bitmap. Masked: pixels less than half covered become
   // white (255,255,255), the see-through colour of the map; covered pixels
@@ -94,8 +120,9 @@ class Canvas {
   struct Px {
     float r = 0, g = 0, b = 0, a = 0;  // premultiplied
   };
-  void Blend(int x, int y, RGB c, float cover);
-  int w_, h_;
+  void Blend(int X, int Y, RGB c, float cover);
+  int w_, h_, s_;
+  int W_, H_;  // the fine size
   std::vector<Px> px_;
 };
 
@@ -103,6 +130,10 @@ class Canvas {
 // (42,30), (42,10), (21,0), edge pixels included, so neighbours tile with
 // no gap.
 bool InHex(int x, int y);
+// The same outline for a fine pixel: at scale 1 exactly InHex; finer, the
+// slanted sides are followed at the fine pixels, still with no gap between
+// neighbours.
+bool InHexFine(const Canvas::Fine& p, int scale);
 // The hex outline as a polygon, shrunk towards the centre by inset pixels.
 std::vector<Pt> HexCorners(float inset = 0.0f);
 // Two corners of side 1..6 (1 north-west, clockwise to 6 west), in the

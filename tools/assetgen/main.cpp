@@ -116,10 +116,18 @@ int WriteAll(const std::string& out) {
   }
   int count = 0;
   for (const Item& it : Items()) {
+    // Each picture at its own size and, beside it as NAME@2x.bmp, drawn
+    // again at twice the size for the map's 2x zoom and dense screens.
     const fs::path path = fs::path(out) / it.folder / it.file;
-    if (!it.make().WriteBmp(path.string(), it.masked)) {
-      std::fprintf(stderr, "assetgen: cannot write %s\n", path.string().c_str());
-      return 1;
+    const fs::path path2x = fs::path(out) / it.folder / (path.stem().string() + "@2x" + path.extension().string());
+    for (const auto& [scale, file] : {std::pair<int, fs::path>{1, path}, std::pair<int, fs::path>{2, path2x}}) {
+      SetDrawScale(scale);
+      const bool written = it.make().WriteBmp(file.string(), it.masked);
+      SetDrawScale(1);
+      if (!written) {
+        std::fprintf(stderr, "assetgen: cannot write %s\n", file.string().c_str());
+        return 1;
+      }
     }
     ++count;
   }
@@ -127,7 +135,7 @@ int WriteAll(const std::string& out) {
     std::fprintf(stderr, "assetgen: cannot write the sounds into %s/sound\n", out.c_str());
     return 1;
   }
-  std::printf("assetgen: %d pictures and the sounds written to %s\n", count, out.c_str());
+  std::printf("assetgen: %d pictures at 1x and 2x and the sounds written to %s\n", count, out.c_str());
   return 0;
 }
 

@@ -13,7 +13,7 @@ const RGB kRed = C(214, 34, 30);
 Canvas Hex() { return Canvas(kHexW, kHexH); }
 
 void ClipToHex(Canvas& c) {
-  c.Clip([](int x, int y) { return InHex(x, y); });
+  c.ClipToHexOutline();
 }
 
 // A round plate that icons stand on, so they read on any panel colour.

@@ -18,17 +18,20 @@ void Shaded(Canvas& c, const Shape& s, RGB base, float light, float dark) {
 }
 
 void Outline(Canvas& layer, RGB ink) {
+  // One drawing pixel thick at any scale, following the shape's fine edge.
+  const int s = layer.Scale();
   std::vector<std::pair<int, int>> edge;
-  for (int y = 0; y < layer.Height(); ++y) {
-    for (int x = 0; x < layer.Width(); ++x) {
-      if (layer.Alpha(x, y) < 0.5f) continue;
-      if (layer.Alpha(x - 1, y) < 0.5f || layer.Alpha(x + 1, y) < 0.5f || layer.Alpha(x, y - 1) < 0.5f ||
-          layer.Alpha(x, y + 1) < 0.5f) {
-        edge.push_back({x, y});
+  layer.ForEachFine([&](const Canvas::Fine& p) {
+    if (layer.FineAlpha(p.X, p.Y) < 0.5f) return;
+    for (int d = 1; d <= s; ++d) {
+      if (layer.FineAlpha(p.X - d, p.Y) < 0.5f || layer.FineAlpha(p.X + d, p.Y) < 0.5f ||
+          layer.FineAlpha(p.X, p.Y - d) < 0.5f || layer.FineAlpha(p.X, p.Y + d) < 0.5f) {
+        edge.push_back({p.X, p.Y});
+        return;
       }
     }
-  }
-  for (const auto& [x, y] : edge) layer.Set(x, y, Mix(layer.At(x, y), ink, 0.8f));
+  });
+  for (const auto& [X, Y] : edge) layer.FineSet(X, Y, Mix(layer.FineAt(X, Y), ink, 0.8f));
 }
 
 void Gradient(Canvas& c, float y0, float y1, RGB top, RGB bottom) {

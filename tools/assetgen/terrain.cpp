@@ -34,21 +34,22 @@ float EdgeDistance(float x, float y) {
 Canvas Hex() { return Canvas(kHexW, kHexH); }
 
 void ClipToHex(Canvas& c) {
-  c.Clip([](int x, int y) { return InHex(x, y); });
+  c.ClipToHexOutline();
 }
 
 // Fills the hex with a textured ground colour; rim darkens the outermost pixel
 // ring so that the hex pattern reads without the grid.
 void Ground(Canvas& c, RGB base, float grain, int seed, float rim) {
-  for (int y = 0; y < kHexH; ++y) {
-    for (int x = 0; x < kHexW; ++x) {
-      if (!InHex(x, y)) continue;
-      const float n = Noise(x / 5.0f, y / 5.0f, seed) * 0.6f + Hash(x, y, seed + 7) * 0.4f;
-      RGB col = Shade(base, 1.0f + (n - 0.5f) * grain);
-      if (EdgeDistance(static_cast<float>(x), static_cast<float>(y)) < 0.9f) col = Shade(col, rim);
-      c.Set(x, y, col);
-    }
-  }
+  // The grain follows the fine pixels, so a finer picture has a finer grain.
+  const bool fine = c.Scale() > 1;
+  c.ForEachFine([&](const Canvas::Fine& p) {
+    if (!InHexFine(p, c.Scale())) return;
+    const float speck = fine ? Hash(p.X, p.Y, seed + 1007) : Hash(p.x, p.y, seed + 7);
+    const float n = Noise(p.fx / 5.0f, p.fy / 5.0f, seed) * 0.6f + speck * 0.4f;
+    RGB col = Shade(base, 1.0f + (n - 0.5f) * grain);
+    if (EdgeDistance(p.fx, p.fy) < 0.9f) col = Shade(col, rim);
+    c.FineSet(p.X, p.Y, col);
+  });
 }
 
 void Tufts(Canvas& c, RGB ink, int seed, int count) {

@@ -3,7 +3,7 @@
 #include "engine/diplomacy.h"
 #include "model/arith.h"
 #include "model/game_state.h"
-#include "view/draw_hex.h"
+#include "model/sprite_numbers.h"
 
 namespace mf {
 

@@ -7,12 +7,12 @@
 
 #include "engine/event_dialog.h"
 #include "model/arith.h"
+#include "model/counter_pic.h"
 #include "model/game_state.h"
 #include "model/hex_geometry.h"
 #include "model/rnd.h"
 #include "orders/new_units.h"
 #include "platform/platform.h"
-#include "view/counter.h"
 
 namespace mf {
 namespace {

@@ -1,6 +1,7 @@
 // Scenario files: the writer and reader of the field sequence that
-// scenario_schema.h describes, the byte scrambling, and the menu flows of
-// saving, loading and importing.
+// scenario_schema.h describes, and the byte scrambling. The menu flows of
+// saving, loading and importing that use them live in
+// control/scenario_flow.cpp.
 //
 // A file holds one field a line. The reader is a stream tokenizer in the
 // manner of the old BASIC "Input #": a number ends at a blank, a comma or the
@@ -17,7 +18,6 @@
 #include <limits>
 #include <system_error>
 
-#include "engine/turn_cycle.h"
 #include "files/scenario_schema.h"
 #include "files/text_codec.h"
 #include "model/arith.h"
@@ -25,18 +25,12 @@
 #include "model/game_state.h"
 #include "model/reset.h"
 #include "platform/file_io.h"
-#include "platform/paths.h"
 #include "platform/platform.h"
-#include "view/counter.h"
-#include "view/sprite_table.h"
 
 namespace fs = std::filesystem;
 
 namespace mf {
 namespace {
-
-// Where the newer-version message sends a player.
-constexpr const char* kDownloadAddress = "https://marrowfield.example.org/download";
 
 constexpr const char* kLongTextBreak = "//x//";
 
@@ -324,57 +318,6 @@ bool OverwriteFile(const std::string& path, const std::string& bytes) {
 // bytes form no number and read as 0.
 Long FirstNumber(std::string_view bytes) { return FieldReader(bytes).Number(); }
 
-bool FileExists(const std::string& path) {
-  std::error_code ec;
-  return fs::exists(path, ec);
-}
-
-// Reads the bytes of a file to be loaded and unscrambles them in memory when
-// the first number is 0. The file on disk is not touched: the end state the
-// rules ask for is reached without it (a scrambled file, transformed twice,
-// is what it was), a file on a read-only disk or in the install folder loads
-// in full, and a file is never left plain by a load that stops half way.
-bool ReadPlainBytes(const std::string& path, std::string* bytes, bool* wasScrambled, std::string* why) {
-  if (!ReadWholeFile(path, bytes, why)) return false;
-  *wasScrambled = FirstNumber(*bytes) == 0;
-  if (*wasScrambled) FlipTopBits(*bytes);
-  return true;
-}
-
-// A plain file is left scrambled by being read, as every read leaves a file.
-// The file keeps its links and permissions; where it cannot be written (a
-// read-only disk, the install folder) it stays as it is, and the load stands.
-void LeaveScrambled(const std::string& path, std::string plain) {
-  FlipTopBits(plain);
-  ReplaceFileAtomically(path, plain);
-}
-
-// A file that stands but cannot be read is refused before anything of the
-// game is touched, with its name and the reason.
-void RefuseUnreadable(const std::string& path, const std::string& why) {
-  Plat().ShowMessage("Cannot read " + path + ": " + why + ".", "File I/O");
-}
-
-void RecomputeCountersAndSprites() {
-  for (int u = 1; u <= Game.UnitCount && u <= kUnitCap; ++u) {
-    if (Unit[u].Regime > 0) Counter(u);
-  }
-  LoadSprites();
-}
-
-// The two refusals a load and an import share, with their messages.
-bool CanOpenForReading(const std::string& path) {
-  if (path.empty()) {
-    Plat().ShowMessage("Aborted", "");
-    return false;
-  }
-  if (!FileExists(path)) {
-    Plat().ShowMessage("File does not exist", "");
-    return false;
-  }
-  return true;
-}
-
 }  // namespace
 
 // ---------------------------------------------------------------------------
@@ -401,10 +344,27 @@ std::string SerializeScenario() {
   return out;
 }
 
-long ParseScenario(const std::string& plain) {
-  ReadVisitor r(plain, false);
+long ParseScenario(const std::string& plain, bool importOnly) {
+  ReadVisitor r(plain, importOnly);
   WalkScenario(r);
   return r.version;
+}
+
+bool FileExists(const std::string& path) {
+  std::error_code ec;
+  return fs::exists(path, ec);
+}
+
+bool ReadPlainBytes(const std::string& path, std::string* bytes, bool* wasScrambled, std::string* why) {
+  if (!ReadWholeFile(path, bytes, why)) return false;
+  *wasScrambled = FirstNumber(*bytes) == 0;
+  if (*wasScrambled) FlipTopBits(*bytes);
+  return true;
+}
+
+void LeaveScrambled(const std::string& path, std::string plain) {
+  FlipTopBits(plain);
+  ReplaceFileAtomically(path, plain);
 }
 
 bool WriteFile(const std::string& path) {
@@ -412,158 +372,6 @@ bool WriteFile(const std::string& path) {
   std::string bytes = SerializeScenario();
   FlipTopBits(bytes);
   return ReplaceFileAtomically(path, bytes);
-}
-
-bool ReadFile(const std::string& path) {
-  if (!CanOpenForReading(path)) return false;
-  std::string bytes, why;
-  bool scrambled = false;
-  if (!ReadPlainBytes(path, &bytes, &scrambled, &why)) {
-    RefuseUnreadable(path, why);
-    return false;
-  }
-  UI.EditMode = 0;
-  ReadVisitor r(bytes, false);
-  WalkScenario(r);
-  if (r.version > kFileVersion) {
-    // A newer file is left plain on disk, as a refused load has always left
-    // it: nothing turns it back.
-    if (scrambled) ReplaceFileAtomically(path, bytes);
-    Plat().ShowMessage(std::string("Please, you have to get a newer version of Marrowfield on the internet: ") +
-                           kDownloadAddress,
-                       "");
-    Plat().ShowMessage("Aborted.", "");
-    return false;
-  }
-  // Whatever state the file was in, it ends scrambled.
-  if (!scrambled) LeaveScrambled(path, std::move(bytes));
-  if (EV(704) == 0) Plat().ShowMessage("Loaded", "");
-  RepairEngineVarsAfterLoad(r.version, false);
-  RecomputeCountersAndSprites();
-  return true;
-}
-
-bool doGoLoad(const std::string& path) {
-  // A file that stands but cannot be read (a folder, a device, no
-  // permission) is refused before the game in memory is cleared.
-  std::string why;
-  if (!path.empty() && FileExists(path) && !CanReadFile(path, &why)) {
-    RefuseUnreadable(path, why);
-    return false;
-  }
-  onlyclear();
-  if (!ReadFile(path)) return false;
-  if (Game.Turn > 0) {
-    UI.EditMode = 0;
-    UI.RegimeLabel = ValidRegime(Game.CurRegime) ? Regime[Game.CurRegime].Name : std::string();
-    UI.TurnLabel = NumText(Game.Turn);
-    UI.HelpText = "Welcome back to your game.";
-  } else {
-    UI.EditMode = 1;
-    UI.HelpText = "You have loaded a game. You can now edit it or select start in the menu.";
-  }
-  setup();
-  if (Game.PBEM == 1 && Game.Turn > 0) {
-    UI.ResumeTurn = true;
-    NextTurn();
-  }
-  UI.SelX = 1;
-  UI.SelY = 1;
-  return true;
-}
-
-bool ImportFile(const std::string& path) {
-  if (!CanOpenForReading(path)) return false;
-  std::string bytes, why;
-  bool scrambled = false;
-  if (!ReadPlainBytes(path, &bytes, &scrambled, &why)) {
-    RefuseUnreadable(path, why);
-    return false;
-  }
-  UI.EditMode = 1;
-  ReadVisitor r(bytes, true);
-  WalkScenario(r);
-  if (!scrambled) LeaveScrambled(path, std::move(bytes));
-  RepairEngineVarsAfterLoad(r.version, true);
-  RecomputeCountersAndSprites();
-  return true;
-}
-
-std::string ScenarioFilter() {
-  if (UI.HideEditor) return "Marrowfield (.mf1) files|*.mf1";
-  return "Marrowfield (.mf1) files|*.mf1|Hidden Campaign Files|*.mf2";
-}
-
-std::string ImportFilter() { return "Marrowfield (.mf1) files|*.mf1;*.ico"; }
-
-bool SaveToPath(const std::string& path) {
-  if (path.empty() || !WriteFile(path)) {
-    Plat().ShowMessage("Save canceled", "File I/O");
-    return false;
-  }
-  Plat().ShowMessage("Saved", "File I/O");
-  return true;
-}
-
-bool SaveCommand() { return SaveToPath(Plat().SaveFileDialog("Save", ScenarioFilter(), ScenariosDir())); }
-
-void LoadCommand() {
-  const std::string path = Plat().OpenFileDialog("Load", ScenarioFilter(), ScenariosDir());
-  if (path.empty()) {
-    Plat().ShowMessage("Load canceled", "");
-    return;
-  }
-  if (!doGoLoad(path)) return;
-  // A campaign file opened from the menu by a player (an author with the
-  // editor panel showing opens it as an ordinary map).
-  if (EV(704) != 0 && Game.Turn == 0 && UI.HideEditor) {
-    if (EV(706) == 1) {
-      // Later files of a campaign are only for a running campaign to load.
-      Plat().ShowMessage("You are not allowed to load this file.", "");
-      MakeItSo(true, "0", "0");
-      return;
-    }
-    // The first file of a campaign starts at once: the player is regime 1
-    // against the computer, without the Start Game dialog.
-    for (int r = 1; r <= Game.RegimeCount && r <= kRegimeCap; ++r) Regime[r].AI = 1;
-    Regime[1].AI = 0;
-    if (EV(705) == 0) Game.FogOfExploration = 0;
-    if (EV(705) == 1) Game.FogOfExploration = 1;
-    Game.FogOfWar = 1;
-    UI.EditMode = 0;
-    UI.ShowEditorPanel = false;
-    UI.PanelsShown = true;
-    UI.MapControlsShown = false;
-    UI.BusyPointer = true;
-    Plat().SetBusy(true);
-    NextTurn();
-    return;
-  }
-  UI.MapControlsShown = true;
-  UI.PanelsShown = true;
-}
-
-void ImportCommand() {
-  const std::string path = Plat().OpenFileDialog("Import", ImportFilter(), ScenariosDir());
-  if (path.empty()) {
-    Plat().ShowMessage("Import canceled", "");
-    return;
-  }
-  ImportFile(path);
-}
-
-void LoadMenuScenario(int n) {
-  if (n < 1 || n > 4) return;
-  onlyclear();
-  // The menu names the files without an extension; the files the build
-  // makes carry ".mf1". Take the bare name when it exists, else the .mf1.
-  const std::string name = "\\scenarios\\scenario" + std::to_string(n);
-  std::string path = ResolveGamePath(name);
-  if (!FileExists(path)) {
-    const std::string withExt = ResolveGamePath(name + ".mf1");
-    if (FileExists(withExt)) path = withExt;
-  }
-  doGoLoad(path);
 }
 
 }  // namespace mf

@@ -1,6 +1,7 @@
-// Reading and writing scenario files (.mf1, hidden campaign files .mf2) and
-// the menu flows around them. A save never leaves a half-written file: the
-// bytes go to a temporary file in the same folder that is renamed into place.
+// Reading and writing scenario files (.mf1, hidden campaign files .mf2). A
+// save never leaves a half-written file: the bytes go to a temporary file in
+// the same folder that is renamed into place. The menu flows around them
+// (load, import, save with their messages) are in control/scenario_flow.h.
 #pragma once
 
 #include <string>
@@ -17,33 +18,26 @@ std::string SerializeScenario();
 // Reads plain file text into the tables as a load does (no clearing, no
 // messages, no engine-variable repairs; the reader's own field checks and
 // repairs apply). Returns the file version read; a version above 111 stops
-// the reading after the head's first fields.
-long ParseScenario(const std::string& plain);
+// the reading after the head's first fields. With importOnly the text is
+// read as an import reads it: only the rule set is kept.
+long ParseScenario(const std::string& plain, bool importOnly = false);
+
+// True when something exists at path.
+bool FileExists(const std::string& path);
+// Reads the bytes of a file to be loaded (false, with the reason, for what
+// is no readable regular file) and unscrambles them in memory when the first
+// number is 0. The file on disk is not touched: the end state the rules ask
+// for is reached without it (a scrambled file, transformed twice, is what it
+// was), a file on a read-only disk or in the install folder loads in full,
+// and a file is never left plain by a load that stops half way.
+bool ReadPlainBytes(const std::string& path, std::string* bytes, bool* wasScrambled, std::string* why);
+// A plain file is left scrambled after its read, as every read leaves a
+// file, by an atomic rewrite that keeps links and permissions; where it
+// cannot be written (a read-only disk, the install folder) it stays as it is.
+void LeaveScrambled(const std::string& path, std::string plain);
 
 // Writes the current game to path, scrambled, through a temporary file.
 // False on an I/O failure; the old file is then untouched.
 bool WriteFile(const std::string& path);
-// Reads a file with all the rules of a load (messages, scrambled-file
-// detection, newer-version refusal, repairs, leaving the file scrambled).
-bool ReadFile(const std::string& path);
-// Clear, read, and set the game up to go on.
-bool doGoLoad(const std::string& path);
-// Takes the rule set of a file into the current game.
-bool ImportFile(const std::string& path);
-
-// The menu commands: they ask the platform for a path, then run the flow
-// with its messages ("Saved", "Save canceled", "Load canceled", ...).
-bool SaveCommand();
-// The save of the menu once a path is known: "Saved", or "Save canceled"
-// for an empty path or a failed write. True when the file was written.
-bool SaveToPath(const std::string& path);
-void LoadCommand();
-void ImportCommand();
-// The four fixed menu entries "scenario1" .. "scenario4".
-void LoadMenuScenario(int n);
-
-// File filters of the dialogs.
-std::string ScenarioFilter();   // with the hidden campaign filter when the editor panel shows
-std::string ImportFilter();
 
 }  // namespace mf

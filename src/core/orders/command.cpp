@@ -3,12 +3,12 @@
 #include <string>
 
 #include "model/arith.h"
+#include "model/counter_pic.h"
 #include "model/game_state.h"
+#include "model/stack.h"
 #include "orders/new_units.h"
-#include "orders/order_state.h"
+#include "orders/order_buttons.h"
 #include "platform/platform.h"
-#include "view/counter.h"
-#include "view/selection.h"
 
 namespace mf {
 namespace {

@@ -6,7 +6,7 @@
 #include "model/arith.h"
 #include "model/game_state.h"
 #include "orders/flood.h"
-#include "orders/order_state.h"
+#include "orders/order_buttons.h"
 #include "platform/platform.h"
 
 namespace mf {

@@ -2,11 +2,11 @@
 
 #include "engine/officers.h"
 #include "model/arith.h"
+#include "model/counter_pic.h"
 #include "model/game_state.h"
 #include "model/hex_geometry.h"
-#include "orders/order_state.h"
-#include "view/counter.h"
-#include "view/selection.h"
+#include "model/stack.h"
+#include "orders/order_buttons.h"
 
 namespace mf {
 namespace {

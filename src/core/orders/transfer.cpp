@@ -6,11 +6,11 @@
 
 #include "engine/supply_flood.h"
 #include "model/arith.h"
+#include "model/counter_pic.h"
 #include "model/game_state.h"
+#include "model/stack.h"
 #include "orders/flood.h"
-#include "orders/order_state.h"
-#include "view/counter.h"
-#include "view/selection.h"
+#include "orders/order_buttons.h"
 
 namespace mf {
 

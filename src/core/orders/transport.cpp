@@ -7,14 +7,14 @@
 #include "model/arith.h"
 #include "model/game_state.h"
 #include "model/hex_geometry.h"
+#include "model/stack.h"
 #include "orders/flood.h"
 #include "orders/move_allowance.h"
 #include "orders/movement.h"
 #include "orders/new_units.h"
-#include "orders/order_state.h"
+#include "orders/order_buttons.h"
 #include "orders/sight.h"
 #include "platform/platform.h"
-#include "view/selection.h"
 
 namespace mf {
 

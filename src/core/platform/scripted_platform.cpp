@@ -1,7 +1,5 @@
 #include "platform/scripted_platform.h"
 
-#include "model/arith.h"
-
 namespace mf {
 namespace {
 std::string Shown(const std::string& title) { return title.empty() ? kProgramTitle : title; }

@@ -14,6 +14,10 @@ namespace mf {
 
 namespace {
 
+// Where the supply overlay prints its figure, from the hex's centre.
+constexpr int kSupplyFigureLeft = 8;
+constexpr int kSupplyFigureTop = 11;
+
 Canvas& CanvasOfPass(int pass) { return pass == 2 ? PanelHexCanvas() : MapCanvas(); }
 
 bool OnMap(HexXY n) { return n.x > 0 && n.y > 0; }
@@ -106,7 +110,9 @@ void DrawSupplyFigure(int x, int y, PixelXY c) {
   }
   if (!any) return;
   const Colour colour = sum >= 0 ? kColourGreen : kColourDefault;
-  MapCanvas().Text(NumText(std::labs(sum)), c.x - 16, c.y - 6, "arial", 9, colour);
+  // Under the counter's card, at the foot of the hex, so that the figure
+  // never covers the counter's own figures.
+  MapCanvas().Text(NumText(std::labs(sum)), c.x - kSupplyFigureLeft, c.y + kSupplyFigureTop, "arial", 9, colour);
 }
 
 }  // namespace

@@ -2,7 +2,7 @@
 // the wing aboard a carrier, the do button's refusals and what follows a
 // mission.
 #include "airsea_test_util.h"
-#include "view/keyboard.h"
+#include "control/keyboard.h"
 
 namespace mf::test {
 namespace {

@@ -1,7 +1,7 @@
 // Airlift and airdrop through the order buttons: which formation is lifted,
 // the flight through the enemy's fighters, and the landing or the jump.
 #include "airsea_test_util.h"
-#include "view/keyboard.h"
+#include "control/keyboard.h"
 
 namespace mf::test {
 namespace {

@@ -16,10 +16,10 @@
 #include "combat/attack.h"
 #include "combat/battle_window.h"
 #include "combat/losses.h"
+#include "control/order_state.h"
 #include "model/game_state.h"
 #include "model/invariants.h"
 #include "model/rnd.h"
-#include "orders/order_state.h"
 #include "orders/transport.h"
 #include "support/core_test.h"
 

@@ -7,8 +7,8 @@
 #include <vector>
 
 #include "content_test_util.h"
-#include "engine/turn_cycle.h"
-#include "files/scenario_file.h"
+#include "control/scenario_flow.h"
+#include "control/turn_cycle.h"
 #include "model/game_state.h"
 #include "model/invariants.h"
 #include "support/core_test.h"

@@ -9,6 +9,7 @@
 
 #include "compile_content.h"
 #include "content_test_util.h"
+#include "control/scenario_flow.h"
 #include "files/scenario_file.h"
 #include "model/game_state.h"
 #include "support/core_test.h"

@@ -8,7 +8,7 @@
 #include <string>
 
 #include "content_test_util.h"
-#include "files/scenario_file.h"
+#include "control/scenario_flow.h"
 #include "model/arith.h"
 #include "model/engine_vars.h"
 #include "model/game_state.h"

@@ -6,8 +6,9 @@
 #include <string>
 
 #include "content_test_util.h"
+#include "control/scenario_flow.h"
+#include "control/turn_cycle.h"
 #include "editor/type_rules.h"
-#include "engine/turn_cycle.h"
 #include "files/scenario_file.h"
 #include "model/game_state.h"
 #include "model/invariants.h"

@@ -1,8 +1,8 @@
 // Peace closes a regime's land to the other's formations and shields its
 // formations from attack.
+#include "control/order_state.h"
+#include "control/selection.h"
 #include "engine/diplomacy.h"
-#include "orders/order_state.h"
-#include "view/selection.h"
 
 #include "dipres_test_util.h"
 

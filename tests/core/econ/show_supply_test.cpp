@@ -2,12 +2,12 @@
 // strict range test and its stale flood origin, and the figures on the map.
 #include "engine/show_supply.h"
 
+#include "control/menu_state.h"
 #include "core/view/recording_canvas.h"
 #include "econ_test_util.h"
 #include "model/reset.h"
 #include "view/canvas.h"
 #include "view/draw_hex.h"
-#include "view/menu_state.h"
 
 namespace mf::test {
 namespace {
@@ -117,8 +117,9 @@ TEST_F(ShowSupplyTest, TheFigureIsPrintedOnTheSHQsHex) {
   ShowSupplyCommand();
   canvas.Reset();
   DrawHex(2, 2);
-  // 100 made less 30 asked, in green at the hex centre (84, 60) less (16, 6).
-  EXPECT_EQ(canvas.Ops().back(), "text 70 68 54 arial 9 65280");
+  // 100 made less 30 asked, in green at the foot of the hex: the centre (84,
+  // 60) less 8 across and 11 down.
+  EXPECT_EQ(canvas.Ops().back(), "text 70 76 71 arial 9 65280");
   InstallMapCanvas(nullptr);
 }
 

@@ -1,7 +1,7 @@
 // The economy in the next-turn driver: supply, recovery and towns at each
 // regime's turn start, for a human and for a computer regime, over several
 // turns, with the invariants checked after every turn start.
-#include "engine/turn_cycle.h"
+#include "control/turn_cycle.h"
 #include "econ_test_util.h"
 
 namespace mf::test {

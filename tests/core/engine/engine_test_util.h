@@ -7,9 +7,9 @@
 #include <string>
 #include <vector>
 
-#include "engine/new_turn_dialog.h"
+#include "control/new_turn_dialog.h"
+#include "control/turn_cycle.h"
 #include "engine/start_game_dialog.h"
-#include "engine/turn_cycle.h"
 #include "model/invariants.h"
 #include "support/core_test.h"
 

@@ -1,6 +1,6 @@
 // The New Turn dialog: headline, lists, password, play-by-mail button, leaving,
 // and the notices after it closes.
-#include "engine/new_turn_dialog.h"
+#include "control/new_turn_dialog.h"
 
 #include <filesystem>
 

@@ -1,8 +1,9 @@
 // A play-by-mail game passed from player to player through real files.
 #include <filesystem>
 
-#include "files/scenario_file.h"
+#include "control/scenario_flow.h"
 #include "engine_test_util.h"
+#include "files/scenario_file.h"
 
 namespace mf::test {
 namespace {

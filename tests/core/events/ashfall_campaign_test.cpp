@@ -6,10 +6,10 @@
 #include <string>
 #include <vector>
 
+#include "control/scenario_flow.h"
+#include "control/turn_cycle.h"
 #include "core/content/content_test_util.h"
-#include "engine/turn_cycle.h"
 #include "events_test_util.h"
-#include "files/scenario_file.h"
 #include "model/invariants.h"
 
 namespace mf::test {

@@ -4,7 +4,8 @@
 #include <algorithm>
 #include <filesystem>
 
-#include "engine/turn_cycle.h"
+#include "control/scenario_flow.h"
+#include "control/turn_cycle.h"
 #include "events_test_util.h"
 #include "files/scenario_file.h"
 #include "model/engine_vars.h"

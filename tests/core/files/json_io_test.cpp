@@ -2,6 +2,7 @@
 // JSON to tables to file gives the bytes of the file it came from.
 #include <string>
 
+#include "control/scenario_flow.h"
 #include "files/json_io.h"
 #include "files/scenario_file.h"
 #include "files_test_util.h"

@@ -4,11 +4,14 @@
 #include <filesystem>
 #include <fstream>
 #include <string>
+#include <tuple>
 
 #include <sys/types.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include "control/scenario_flow.h"
+#include "control/turn_cycle.h"
 #include "files/scenario_file.h"
 #include "files_test_util.h"
 #include "model/game_state.h"
@@ -238,6 +241,49 @@ TEST_F(ScenarioFlow, AFolderOrADeviceIsRefusedAndTheGameKept) {
   EXPECT_EQ(Game.MapW, 12);
   EXPECT_EQ(Unit[2].Name, "2nd Rifles");
   EXPECT_EQ(Type[1].Name, "Rifles");
+}
+
+// A damaged file with a negative price, a frontsize limit that doubles past
+// the end of a long and political points at the very bottom, loaded and
+// played for two turns: nothing wraps round (the sanitizer build of the
+// suite would report it), and the values stay where the rules keep them.
+TEST_F(ScenarioFlow, ADamagedFileWithExtremeValuesPlaysTwoTurns) {
+  SavedScenario("x.mf1");
+  // A town of each side that makes political points for its SHQ every turn.
+  for (const auto& [r, x, y] : {std::tuple{1, 2, 2}, std::tuple{2, 8, 8}}) {
+    Hex[x][y].Land = kUrban;
+    Hex[x][y].Pop = 20000;
+    Hex[x][y].Owner = r;
+    Hex[x][y].ProdSHQ = world::AddShq(r, x, y, 1, "SHQ");
+  }
+  auto lines = SplitLines(SerializeScenario());
+  auto set = [&lines](const std::string& name, const std::string& value) {
+    const auto at = LinesOf(name);
+    ASSERT_FALSE(at.empty()) << name;
+    lines[at[0]] = value;
+  };
+  lines[0] = " 110 ";  // an older file: engine variable 538 is doubled on load
+  set("Dip[1,2].Cost", "-5 ");
+  set("Dip[2,1].Cost", "-5 ");
+  set("EngineVar[538]", " 2147483647 ");
+  set("Regime[1].PP", "-2147483648 ");
+  set("Regime[2].PP", " 2147483647 ");
+  const std::string path = TempPath("damaged.mf1");
+  WriteBytes(path, Flipped(JoinLines(lines)));
+  ASSERT_TRUE(doGoLoad(path));
+  EXPECT_EQ(Dip[1][2].Cost, 999);
+  EXPECT_EQ(EngineVar[538].Value, 2147483647);
+  EXPECT_EQ(Regime[1].PP, -2147483647 - 1);
+  for (int r = 1; r <= Game.RegimeCount; ++r) Regime[r].AI = 0;
+  UI.EditMode = 0;
+  UI.HideEditor = true;
+  NextTurn();
+  ASSERT_EQ(Game.Turn, 1);
+  for (int k = 0; k < 2 * Game.RegimeCount; ++k) pubendturn();
+  EXPECT_EQ(Game.Turn, 3);
+  EXPECT_GT(Regime[1].PP, -2147483647 - 1);  // its town's points were added
+  EXPECT_EQ(Regime[2].PP, 2147483647);       // its town's points stop at the end
+  EXPECT_EQ(Dip[1][2].Cost, 999);
 }
 
 TEST_F(ScenarioFlow, ReadFileOfNoPathOrAMissingFile) {

@@ -2,6 +2,7 @@
 // fields, the version repairs.
 #include <string>
 
+#include "control/scenario_flow.h"
 #include "files/scenario_file.h"
 #include "files_test_util.h"
 #include "model/game_state.h"

@@ -4,6 +4,7 @@
 #include <random>
 #include <string>
 
+#include "control/scenario_flow.h"
 #include "files/scenario_file.h"
 #include "files_test_util.h"
 #include "model/game_state.h"

@@ -1,6 +1,7 @@
 // Write, read, write again: the same bytes, and the tables as they were.
 #include <string>
 
+#include "control/scenario_flow.h"
 #include "files/scenario_file.h"
 #include "files_test_util.h"
 #include "model/game_state.h"

@@ -1,7 +1,7 @@
 // Carrying out a move, the occupation power, and the turn-start capture.
 #include <gtest/gtest.h>
 
-#include "engine/turn_cycle.h"
+#include "control/turn_cycle.h"
 #include "orders/movement.h"
 #include "orders_test_util.h"
 

@@ -4,14 +4,14 @@
 #include <algorithm>
 #include <tuple>
 
-#include "engine/turn_cycle.h"
+#include "control/keyboard.h"
+#include "control/order_state.h"
+#include "control/selection.h"
+#include "control/turn_cycle.h"
 #include "model/reset.h"
 #include "orders/movement.h"
-#include "orders/order_state.h"
 #include "orders/transport.h"
 #include "orders_test_util.h"
-#include "view/keyboard.h"
-#include "view/selection.h"
 
 namespace mf {
 namespace {

@@ -1,8 +1,8 @@
 // Fortifying a hex side: the six checks, the question, the costs.
+#include "control/selection.h"
 #include "model/hex_geometry.h"
 #include "orders/entrench.h"
 #include "orgs_test_util.h"
-#include "view/selection.h"
 
 namespace mf::test {
 namespace {

@@ -9,8 +9,8 @@
 #include <string>
 #include <vector>
 
+#include "control/order_state.h"
 #include "model/game_state.h"
-#include "orders/order_state.h"
 #include "support/core_test.h"
 
 namespace mf::test {

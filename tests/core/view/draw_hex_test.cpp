@@ -418,9 +418,9 @@ TEST_F(StackOrderTest, FiguresArePrintedOnceForTheTopUnit) {
   map.Reset();
   DrawHex(2, 2);
   // A THQ without troops: no attack at all, defence 0; Blue's text colour &Hffffff.
-  EXPECT_EQ(map.Only("text"), (Ops{"text \"   0\" 69 68 Small Fonts 6 16777215", "text 0 88 68 Small Fonts 6 16777215"}));
+  EXPECT_EQ(map.Only("text"), (Ops{"text \"   0\" 72 62 Small Fonts 6 16777215", "text 0 88 62 Small Fonts 6 16777215"}));
   // The figures come after the last counter and its badge.
-  EXPECT_EQ(map.Ops().back(), "text 0 88 68 Small Fonts 6 16777215");
+  EXPECT_EQ(map.Ops().back(), "text 0 88 62 Small Fonts 6 16777215");
 }
 
 TEST_F(StackOrderTest, FogOfWarHidesTheUnitsOfHexesOutOfSight) {
@@ -518,19 +518,19 @@ TEST_F(DrawHexTest, SupplyFiguresOfTheCurrentRegime) {
   // 120 made less 45 asked: 75, green, at (84 - 16, 60 - 6).
   map.Reset();
   DrawHex(2, 2);
-  EXPECT_EQ(map.Ops().back(), "text 75 68 54 arial 9 65280");
+  EXPECT_EQ(map.Ops().back(), "text 75 76 71 arial 9 65280");
   // More asked than made: the amount, in the default colour.
   Unit[shq].GenSupply = 10;
   Unit[rifles].GenSupply = 30;
   map.Reset();
   DrawHex(2, 2);
-  EXPECT_EQ(map.Ops().back(), "text 20 68 54 arial 9 0");
+  EXPECT_EQ(map.Ops().back(), "text 20 76 71 arial 9 0");
   // Nothing made, nothing asked: still a figure, 0 in green.
   Unit[shq].GenSupply = 0;
   Unit[rifles].GenSupply = 0;
   map.Reset();
   DrawHex(2, 2);
-  EXPECT_EQ(map.Ops().back(), "text 0 68 54 arial 9 65280");
+  EXPECT_EQ(map.Ops().back(), "text 0 76 71 arial 9 65280");
   // Another regime's hex: none.
   const int foe = Add(blue, 5, 5, "Foes");
   Unit[foe].GenSupply = 50;
@@ -563,8 +563,8 @@ TEST_F(DrawHexTest, AllLayersOfOneHexInOrder) {
                             "blit 23 63 40",
                             "blit 1526 63 40",
                             "blit 243 63 40",
-                            "text SHQ 68 67 Small Fonts 6 16777215",
-                            "text 0 87 67 Small Fonts 6 16777215",
+                            "text SHQ 71 61 Small Fonts 6 16777215",
+                            "text 0 87 61 Small Fonts 6 16777215",
                             "blit 805 63 40",
                             "blit 803 63 40",
                             "line 63 50 63 70 5592405",
@@ -575,7 +575,7 @@ TEST_F(DrawHexTest, AllLayersOfOneHexInOrder) {
                             "line 84 40 63 50 5592405",
                             "blit 808 63 40",
                             "blit 846 63 40",
-                            "text 30 68 54 arial 9 65280",
+                            "text 30 76 71 arial 9 65280",
                         }));
 }
 

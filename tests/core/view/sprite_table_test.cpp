@@ -12,6 +12,7 @@
 #include <string>
 #include <vector>
 
+#include "control/scenario_flow.h"
 #include "files/scenario_file.h"
 #include "model/reset.h"
 #include "platform/paths.h"

@@ -1,9 +1,9 @@
 // The keys of the main window.
 #include <gtest/gtest.h>
 
+#include "control/keyboard.h"
 #include "model/reset.h"
 #include "support/core_test.h"
-#include "view/keyboard.h"
 
 namespace mf {
 namespace {

@@ -1,9 +1,9 @@
 // Which menu commands the main window offers, and the view menu's switches.
 #include <gtest/gtest.h>
 
+#include "control/menu_state.h"
 #include "model/reset.h"
 #include "support/core_test.h"
-#include "view/menu_state.h"
 
 namespace mf {
 namespace {

@@ -1,8 +1,8 @@
 // Selecting hexes and walking through stacks with presses on the map.
 #include <gtest/gtest.h>
 
+#include "control/selection.h"
 #include "support/core_test.h"
-#include "view/selection.h"
 
 namespace mf {
 namespace {

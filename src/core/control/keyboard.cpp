@@ -1,10 +1,10 @@
-#include "view/keyboard.h"
+#include "control/keyboard.h"
 
 #include <string>
 
+#include "control/order_state.h"
 #include "model/arith.h"
 #include "model/game_state.h"
-#include "orders/order_state.h"
 #include "platform/platform.h"
 
 namespace mf {

@@ -1,6 +1,8 @@
 // Selecting a hex and a formation of its stack with the mouse.
 #pragma once
 
+#include "model/stack.h"
+
 namespace mf {
 
 // Mouse buttons of a press on the map.
@@ -9,10 +11,6 @@ constexpr int kRightButton = 2;
 
 // Sound slot played by every press on the map.
 constexpr int kClickSound = 1;
-
-// Formations standing in hex (x, y): the stack slots in use, 0..3. Slots are
-// packed, so this also is the number of the last slot in use.
-int StackCount(int x, int y);
 
 // Selects hex (x, y) as a press on it does. A press on the hex selected by
 // the press before, in a stack of two or three and with no move under way,

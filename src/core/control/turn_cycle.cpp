@@ -1,4 +1,4 @@
-#include "engine/turn_cycle.h"
+#include "control/turn_cycle.h"
 
 #include "view/draw_hex.h"
 
@@ -9,14 +9,14 @@
 #include <system_error>
 
 #include "ai/ai_turn.h"
+#include "control/new_turn_dialog.h"
+#include "control/scenario_flow.h"
 #include "engine/events.h"
-#include "engine/new_turn_dialog.h"
 #include "engine/news.h"
 #include "engine/production.h"
 #include "engine/recovery.h"
 #include "engine/start_game_dialog.h"
 #include "engine/supply.h"
-#include "files/scenario_file.h"
 #include "model/arith.h"
 #include "model/game_state.h"
 #include "model/reset.h"

@@ -1,4 +1,4 @@
-#include "view/menu_state.h"
+#include "control/menu_state.h"
 
 #include "engine/show_supply.h"
 #include "model/game_state.h"

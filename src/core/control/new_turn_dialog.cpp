@@ -1,7 +1,7 @@
-#include "engine/new_turn_dialog.h"
+#include "control/new_turn_dialog.h"
 
+#include "control/scenario_flow.h"
 #include "engine/news.h"
-#include "files/scenario_file.h"
 #include "model/arith.h"
 #include "model/game_state.h"
 #include "model/labels.h"

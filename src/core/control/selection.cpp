@@ -1,10 +1,10 @@
-#include "view/selection.h"
+#include "control/selection.h"
 
 #include <cstdlib>
 
+#include "control/order_state.h"
 #include "editor/map_paint.h"
 #include "model/game_state.h"
-#include "orders/order_state.h"
 #include "platform/platform.h"
 
 namespace mf {
@@ -14,13 +14,6 @@ namespace {
 constexpr int kPartialReach = 15;
 
 }  // namespace
-
-int StackCount(int x, int y) {
-  if (!ValidHex(x, y)) return 0;
-  int count = 0;
-  while (count < kStackSlots && Hex[x][y].Unit[count + 1] != 0) ++count;
-  return count;
-}
 
 void SelectHex(int x, int y) {
   if (!ValidHex(x, y)) return;
