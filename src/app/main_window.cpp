@@ -1,4 +1,5 @@
 #include "main_window.h"
+
 #include "view_text.h"
 
 #include <QActionGroup>
@@ -13,12 +14,14 @@
 #include <QScrollArea>
 #include <QVBoxLayout>
 
+#include "ai/ai_state.h"
 #include "control/keyboard.h"
 #include "control/menu_state.h"
 #include "control/order_state.h"
 #include "control/scenario_flow.h"
 #include "control/selection.h"
 #include "control/turn_cycle.h"
+#include "help_window.h"
 #include "map_widget.h"
 #include "minimap.h"
 #include "model/clear_dialog.h"
@@ -118,25 +121,36 @@ bool SurrenderConfirmed() {
   return mf::Plat().AskYesNo(kSurrenderQuestion, kSurrenderTitle);
 }
 
+QString OrderButtonTip(const OrderButtonDef& def, const std::string& label) {
+  const int id = mf::OrderButtonByName(def.name);
+  const int key = id >= 0 ? mf::OrderButtonOf(id).key : 0;
+  QString tip = Q(label.empty() ? std::string(def.toolTip) : label);
+  tip += key > 0 ? QString("   (key %1)").arg(QChar(key)) : QString("   (no key)");
+  return tip + "\n" + def.help;
+}
+
 const std::vector<OrderButtonDef>& OrderButtonDefs() {
   static const std::vector<OrderButtonDef> defs = {
-      {"move", "[M]ove", "[M]ove"},
-      {"attack", "[A]ttack", "[A]ttack"},
-      {"production", "[P]roduction", "[P]roduction"},
-      {"command", "[C]ommand", "[C]hange Command"},
-      {"newunit", "[N]ew Unit", "[N]ew Unit"},
-      {"transfer", "[T]ransfer", "[T]ransfer"},
-      {"officerpool", "[O]fficers", "[O]fficerpool"},
-      {"research", "[R]esearch", "[R]esearch"},
-      {"diplomatics", "[D]iplomacy", "[D]iplomatics"},
-      {"disband", "Disband", "Disband this unit"},
-      {"entrench", "[E]ntrench", "[E]ntrench"},
-      {"load", "[L]oad", "[L]oad"},
-      {"unload", "[U]nload", "[U]nload"},
-      {"interdict", "[I]nterdict", "[I]nterdict"},
-      {"strategic", "[S]trat. bomb", "[S]trategic bombing"},
-      {"airlift", "Airli[f]t", "Airli[f]t/drop"},
-      {"airsupply", "Air sup. [Y]", "Airtransfer [Y]"},
+      {"move", "[M]ove", "[M]ove",
+       "Move the selected formation: the hexes it can reach are outlined, a click on one moves it there."},
+      {"attack", "[A]ttack", "[A]ttack",
+       "Select an enemy hex first, then press Attack; join formations by clicking their pictures in the "
+       "panel, then press DO ATTACK."},
+      {"production", "[P]roduction", "[P]roduction", "Choose what the selected town of yours produces and which SHQ it serves."},
+      {"command", "[C]ommand", "[C]hange Command", "Put the selected formation under another THQ or SHQ."},
+      {"newunit", "[N]ew Unit", "[N]ew Unit", "Raise a new formation or HQ in the selected hex."},
+      {"transfer", "[T]ransfer", "[T]ransfer", "Move troops and supply from the selected formation to another one."},
+      {"officerpool", "[O]fficers", "[O]fficerpool", "Look at your officers and give one to a formation."},
+      {"research", "[R]esearch", "[R]esearch", "Spend political points on research."},
+      {"diplomatics", "[D]iplomacy", "[D]iplomatics", "Offer peace or declare war to the other regimes."},
+      {"disband", "Disband", "Disband this unit", "Disband the selected formation."},
+      {"entrench", "[E]ntrench", "[E]ntrench", "Let the selected infantry fortify a side of its hex: click the neighbour."},
+      {"load", "[L]oad", "[L]oad", "Load a formation onto the selected ships."},
+      {"unload", "[U]nload", "[U]nload", "Land the selected ships' cargo on a neighbouring hex."},
+      {"interdict", "[I]nterdict", "[I]nterdict", "Send the selected aircraft against an enemy formation."},
+      {"strategic", "[S]trat. bomb", "[S]trategic bombing", "Send the selected bombers against an enemy town."},
+      {"airlift", "Airli[f]t", "Airli[f]t/drop", "Fly the formation the selected aircraft carry to a hex, or drop it there."},
+      {"airsupply", "Air sup. [Y]", "Airtransfer [Y]", "Fly supply with the selected aircraft to a formation."},
   };
   return defs;
 }
@@ -252,7 +266,7 @@ QWidget* MainWindow::BuildCentre() {
   for (const auto& def : OrderButtonDefs()) {
     auto* b = new QPushButton(def.caption, orderBar_);
     b->setObjectName(def.name);
-    b->setToolTip(def.toolTip);
+    b->setToolTip(OrderButtonTip(def, def.toolTip));
     b->setFocusPolicy(Qt::NoFocus);
     b->setEnabled(false);  // the orders enable them by the selection
     b->setMinimumWidth(60);
@@ -264,6 +278,7 @@ QWidget* MainWindow::BuildCentre() {
   doButton->setObjectName("do");
   doButton->setFocusPolicy(Qt::NoFocus);
   doButton->setEnabled(false);
+  doButton->setToolTip("Carries out the order under way, as its caption says   (keys Enter, Space)");
   doButton->setMinimumHeight(26);
   buttons_["do"] = doButton;
   connect(doButton, &QPushButton::clicked, this, [this] { Act([] { mf::DoButton(); }); });
@@ -271,6 +286,7 @@ QWidget* MainWindow::BuildCentre() {
   cancel->setObjectName("cancel");
   cancel->setFocusPolicy(Qt::NoFocus);
   cancel->setEnabled(false);
+  cancel->setToolTip("Ends the order under way without doing it   (key Esc)");
   buttons_["cancel"] = cancel;
   connect(cancel, &QPushButton::clicked, this, [this] { Act([] { mf::DoCancel(); }); });
   LayOutOrderButtons(9);
@@ -299,7 +315,7 @@ QWidget* MainWindow::BuildCentre() {
   right->addWidget(scroll, 1);
   auto* next = new QPushButton("Next turn", rightColumn_);
   next->setObjectName("nextturn");
-  next->setToolTip("Next turn");
+  next->setToolTip("Next turn\nEnds your turn (after a question) and hands over to the next regime.");
   next->setFocusPolicy(Qt::NoFocus);
   next->setMinimumHeight(34);
   buttons_["nextturn"] = next;
@@ -409,6 +425,7 @@ void MainWindow::BuildMenus() {
   auto* zooms = new QActionGroup(this);
   zooms->addAction(zoom1);
   zooms->addAction(zoom2);
+  // Ctrl and the wheel zoom too; the menu's tick follows.
   connect(map_, &MapWidget::ZoomChanged, this, [zoom1, zoom2](int z) { (z == 2 ? zoom2 : zoom1)->setChecked(true); });
   connect(zoom1, &QAction::triggered, this, [this] { map_->SetZoom(1); });
   connect(zoom2, &QAction::triggered, this, [this] { map_->SetZoom(2); });
@@ -417,6 +434,30 @@ void MainWindow::BuildMenus() {
 
   QMenu* edit = menuBar()->addMenu("&Edit");
   AddAction(edit, "editor", "Editor", [] { mf::ToggleEditor(); }, true);
+
+  // Help can be read at any time, also while the computer plays: the windows
+  // stand beside the game and change nothing in it.
+  QMenu* help = menuBar()->addMenu("&Help");
+  const struct {
+    const char* name;
+    const char* text;
+    const char* window;
+    QString (*html)();
+  } pages[] = {{"howToPlay", "How to play", "howToPlayWindow", &HowToPlayText},
+               {"about", "About", "aboutWindow", &AboutText}};
+  for (const auto& page : pages) {
+    QAction* a = help->addAction(page.text);
+    a->setObjectName(page.name);
+    const QString window = page.window, title = page.text;
+    auto html = page.html;
+    connect(a, &QAction::triggered, this, [this, window, title, html] {
+      auto* w = findChild<HelpWindow*>(window);
+      if (!w) w = new HelpWindow(window, title == "About" ? "About Marrowfield" : title, html(), this);
+      w->show();
+      w->raise();
+    });
+    actions_[page.name] = a;
+  }
 }
 
 QAction* MainWindow::action(const std::string& name) const {
@@ -497,6 +538,15 @@ MainWindow::GameFace MainWindow::CurrentFace() {
 
 void MainWindow::SyncWithGame() {
   if (syncing_ || quitting_) return;
+  // The player quit while the computer was at work: its turn has stopped
+  // after the stage it was in, and now the program ends.
+  if (quitAfterTurn_ && !UI.BusyPointer && tickDepth_ == 0) {
+    quitAfterTurn_ = false;
+    AI.StopRequested = false;
+    QuitNow();
+    close();
+    return;
+  }
   syncing_ = true;
   ReloadPicturesIfNeeded();
   if (quitting_) {
@@ -549,6 +599,23 @@ void MainWindow::SyncWithGame() {
   ApplyMenuState();
   map_->view()->update();
   syncing_ = false;
+
+  // A computer regime has finished its turn and hands on to another
+  // computer regime: that turn starts at once instead of at the timer's next
+  // tick, so that computer regimes follow each other at the computer's
+  // speed. Queued behind what is pending, so the window still paints and
+  // moves between two turns. A person's turn begins on the timer's tick.
+  const int next = Game.CurRegime >= Game.RegimeCount ? 1 : static_cast<int>(Game.CurRegime) + 1;
+  const bool computerWaiting = Game.Turn > 0 && UI.EditMode != 1 && ValidRegime(Game.CurRegime) &&
+                               Regime[Game.CurRegime].AI > 0 && !UI.BusyPointer && ValidRegime(next) &&
+                               Regime[next].AI > 0;
+  if (computerWaiting && !tickQueued_ && !quitAfterTurn_) {
+    tickQueued_ = true;
+    QTimer::singleShot(0, this, [this] {
+      tickQueued_ = false;
+      Tick();
+    });
+  }
 }
 
 void MainWindow::ApplyButtons() {
@@ -561,7 +628,7 @@ void MainWindow::ApplyButtons() {
     if (id < 0) continue;
     QPushButton* button = buttons_[def.name];
     button->setEnabled(b.order[id].enabled && !UI.BusyPointer);
-    if (!b.order[id].caption.empty()) button->setToolTip(Q(b.order[id].caption));
+    button->setToolTip(OrderButtonTip(def, b.order[id].caption));
   }
   buttons_["do"]->setText(Q(b.doButton.caption));
   buttons_["do"]->setEnabled(b.doButton.enabled && !UI.BusyPointer);
@@ -614,7 +681,21 @@ void MainWindow::closeEvent(QCloseEvent* e) {
     e->accept();
     return;
   }
+  // Asked while the computer plays (its stages yield to the window), the
+  // question answered Yes stops the computer after its current stage; the
+  // program then ends when the driver has returned.
+  const bool computerAtWork = UI.BusyPointer || tickDepth_ > 0;
+  if (quitAfterTurn_) {
+    e->ignore();
+    return;
+  }
   if (mf::Plat().AskYesNo("Are you sure you want to quit?", "")) {
+    if (computerAtWork) {
+      quitAfterTurn_ = true;
+      AI.StopRequested = true;
+      e->ignore();
+      return;
+    }
     quitting_ = true;
     timer_.stop();
     e->accept();

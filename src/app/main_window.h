@@ -29,7 +29,10 @@ struct OrderButtonDef {
   const char* name;
   const char* caption;
   const char* toolTip;
+  const char* help;  // what the order does, for the button's tip
 };
+// The tip of an order button: its label, its key, and what it does.
+QString OrderButtonTip(const OrderButtonDef& def, const std::string& label);
 const std::vector<OrderButtonDef>& OrderButtonDefs();
 
 // The window asks before what cannot be undone; scripts and the game's own
@@ -123,6 +126,8 @@ class MainWindow : public QMainWindow {
   bool syncing_ = false;
   GameFace lastFace_{};
   bool quitting_ = false;
+  bool quitAfterTurn_ = false;  // the player quit during a computer turn
+  bool tickQueued_ = false;     // the next computer turn is already asked for
 };
 
 }  // namespace mf::app

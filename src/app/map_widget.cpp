@@ -3,7 +3,10 @@
 #include <QGridLayout>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QHelpEvent>
+#include <QSet>
 #include <QPainterPath>
+#include <QToolTip>
 #include <QWheelEvent>
 #include <cmath>
 
@@ -12,6 +15,7 @@
 #include "model/hex_geometry.h"
 #include "model/reset.h"
 #include "view/draw_hex.h"
+#include "view/panel.h"
 
 namespace mf::app {
 namespace {
@@ -24,6 +28,8 @@ const QColor kMapBackground(24, 28, 34);
 // The edge of the hexes within reach of an order: a light line that stands
 // out on every terrain and every regime colour.
 const QColor kReachColour(130, 235, 255);
+// The mark of a formation joined to the attack being prepared.
+constexpr int kJoinedSprite = 892;
 
 }  // namespace
 
@@ -136,11 +142,14 @@ QPoint MapWidget::HexCentreOnView(int x, int y) const {
   return QPoint(c.x * zoom_, c.y * zoom_);
 }
 
+HexXY MapWidget::HexAt(QPoint pos) const {
+  return PixelToHex(pos.x() / zoom_, pos.y() / zoom_, static_cast<int>(UI.ScrollX), static_cast<int>(UI.ScrollY));
+}
+
 void MapWidget::Pressed(QPoint pos, Qt::MouseButton button) {
   if (!interactive_ || !UI.MapShown) return;
   if (button != Qt::LeftButton && button != Qt::RightButton) return;
-  const HexXY h = PixelToHex(pos.x() / zoom_, pos.y() / zoom_, static_cast<int>(UI.ScrollX),
-                             static_cast<int>(UI.ScrollY));
+  const HexXY h = HexAt(pos);
   emit HexPressed(h.x, h.y, button == Qt::LeftButton ? kLeftButton : kRightButton);
 }
 
@@ -236,7 +245,10 @@ void MapView::paintEvent(QPaintEvent*) {
     // The window moved to a screen of another density: draw again for it.
     QMetaObject::invokeMethod(owner_, [o = owner_] { o->ViewResized(); }, Qt::QueuedConnection);
   }
-  if (dx == 0 && dy == 0) DrawReachOutline(p);
+  if (dx == 0 && dy == 0) {
+    DrawReachOutline(p);
+    DrawAttackMarks(p);
+  }
 
   // The selected hex: an outline over the picture, so that selecting never
   // needs the hexes repainted just for the highlight.
@@ -289,6 +301,54 @@ void MapView::DrawReachOutline(QPainter& p) {
   p.drawPath(edge);
   p.setPen(QPen(kReachColour, 1.6 * z, Qt::SolidLine, Qt::RoundCap));
   p.drawPath(edge);
+}
+
+void MapView::DrawAttackMarks(QPainter& p) {
+  if (UI.Order.AttackOrder <= 0 || UI.EditMode == 1) return;
+  const int z = owner_->zoom_;
+  p.setRenderHint(QPainter::Antialiasing, true);
+  // The target: a red ring with a cross.
+  if (ValidHex(static_cast<int>(UI.OrdX), static_cast<int>(UI.OrdY))) {
+    const QPoint c = owner_->HexCentreOnView(static_cast<int>(UI.OrdX), static_cast<int>(UI.OrdY));
+    p.setPen(QPen(QColor(0, 0, 0, 170), 4 * z));
+    p.drawEllipse(c, 17 * z, 17 * z);
+    p.setPen(QPen(QColor(235, 60, 50), 2 * z));
+    p.drawEllipse(c, 17 * z, 17 * z);
+    for (const QPoint& d : {QPoint(1, 0), QPoint(-1, 0), QPoint(0, 1), QPoint(0, -1)})
+      p.drawLine(c + d * 13 * z, c + d * 21 * z);
+  }
+  // Every joined formation's hex carries the joined mark, once.
+  const QPixmap& mark = Sprites().Get(kJoinedSprite);
+  const QPixmap& markDrawn = Sprites().Get(kJoinedSprite, z);
+  QSet<int> done;
+  for (int i = 1; i <= UI.AttackerCount && i <= kAttackerCap; ++i) {
+    const int x = static_cast<int>(UI.AttackerX[i]), y = static_cast<int>(UI.AttackerY[i]);
+    if (!ValidHex(x, y) || done.contains(x * 1000 + y)) continue;
+    done.insert(x * 1000 + y);
+    const QPoint c = owner_->HexCentreOnView(x, y);
+    if (!mark.isNull()) {
+      p.drawPixmap(QRectF(c.x() - 21 * z, c.y() - 20 * z, mark.width() * z, mark.height() * z), markDrawn,
+                   QRectF(markDrawn.rect()));
+    }
+    p.setPen(QPen(QColor(255, 170, 40), 2 * z, Qt::DashLine));
+    p.drawEllipse(c, 17 * z, 17 * z);
+  }
+}
+
+bool MapView::event(QEvent* e) {
+  if (e->type() == QEvent::ToolTip) {
+    auto* help = static_cast<QHelpEvent*>(e);
+    const HexXY h = owner_->HexAt(help->pos());
+    const std::string tip = UI.MapShown ? HexTipText(h.x, h.y) : std::string();
+    if (tip.empty()) {
+      QToolTip::hideText();
+      e->ignore();
+    } else {
+      QToolTip::showText(help->globalPos(), QString::fromStdString(tip), this);
+    }
+    return true;
+  }
+  return QWidget::event(e);
 }
 
 void MapView::wheelEvent(QWheelEvent* e) { owner_->Wheel(e); }

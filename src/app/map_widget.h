@@ -5,6 +5,7 @@
 #include <QScrollBar>
 #include <QWidget>
 
+#include "model/hex_geometry.h"
 #include "qt_canvas.h"
 
 namespace mf::app {
@@ -34,6 +35,8 @@ class MapWidget : public QWidget {
   ImageCanvas& canvas() { return canvas_; }
   // The window point (in the view's pixels) of the centre of hex (x, y).
   QPoint HexCentreOnView(int x, int y) const;
+  // The hex under a point of the view; zeros off the map.
+  HexXY HexAt(QPoint pos) const;
 
  signals:
   // The player did something on the map (scrolling); the window syncs.
@@ -81,8 +84,12 @@ class MapView : public QWidget {
   void resizeEvent(QResizeEvent*) override;
   void mousePressEvent(QMouseEvent*) override;
   void wheelEvent(QWheelEvent*) override;
+  // The hover tip: what the player may know of the hex under the mouse.
+  bool event(QEvent*) override;
 
  private:
+  // The target of an attack being prepared and the formations joined to it.
+  void DrawAttackMarks(QPainter& p);
   // The edge of the hexes within reach of the order under way.
   void DrawReachOutline(QPainter& p);
   MapWidget* owner_;

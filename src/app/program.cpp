@@ -85,7 +85,10 @@ int RunProgram(QApplication& app, const ProgramOptions& options) {
   mf::InstallPlatform(&platform);
   RegisterAllDialogViews();
 
-  const QString dir = options.programDir.isEmpty() ? QCoreApplication::applicationDirPath() : options.programDir;
+  // Beside the program in a build, share/marrowfield once installed.
+  const QString dir = options.programDir.isEmpty()
+                          ? QString::fromStdString(mf::FindProgramDir(QCoreApplication::applicationDirPath().toStdString()))
+                          : options.programDir;
   StartGameState(dir);
   // Let the event loop run once before the windows come up.
   QCoreApplication::processEvents();

@@ -41,6 +41,17 @@ QPixmap CounterPixmap(int picture, int badge, int scale) {
   return out;
 }
 
+// Is the formation in slot `slot` of hex (x, y) joined to the attack being prepared?
+bool JoinedToAttack(int x, int y, int slot) {
+  if (mf::UI.Order.AttackOrder <= 0) return false;
+  for (int i = 1; i <= mf::UI.AttackerCount && i <= kAttackerCap; ++i) {
+    if (mf::UI.AttackerX[i] == x && mf::UI.AttackerY[i] == y && mf::UI.AttackerSlot[i] == slot) return true;
+  }
+  return false;
+}
+
+constexpr int kJoinedSprite = 892;
+
 void SetShown(QWidget* w, bool shown) {
   if (w->isVisibleTo(w->parentWidget()) != shown) w->setVisible(shown);
 }
@@ -248,10 +259,24 @@ void SidePanel::ShowContent() {
       stack_[s]->setToolTip(QString());
       continue;
     }
-    stack_[s]->setPixmap(CounterPixmap(slot.picture, slot.badge, 1));
-    stack_[s]->setStyleSheet(slot.selected ? "border: 2px solid #ffe65a; border-radius: 3px;"
-                                           : "border: 1px solid #46505c; border-radius: 3px;");
-    stack_[s]->setToolTip(slot.unit > 0 && slot.unit <= kUnitCap ? Q(mf::Unit[slot.unit].Name) : QString());
+    // A formation joined to the attack being prepared carries the joined
+    // mark and an orange frame; a press on it takes it out again.
+    const bool joined = JoinedToAttack(p.x, p.y, s);
+    QPixmap counter = CounterPixmap(slot.picture, slot.badge, 1);
+    if (joined) {
+      QPainter mark(&counter);
+      mark.drawPixmap(0, 0, Sprites().Get(kJoinedSprite));
+    }
+    stack_[s]->setPixmap(counter);
+    stack_[s]->setStyleSheet(joined          ? "border: 2px solid #ffaa28; border-radius: 3px;"
+                             : slot.selected ? "border: 2px solid #ffe65a; border-radius: 3px;"
+                                             : "border: 1px solid #46505c; border-radius: 3px;");
+    QString tip = slot.unit > 0 && slot.unit <= kUnitCap ? Q(mf::Unit[slot.unit].Name) : QString();
+    if (mf::UI.Order.AttackOrder > 0) {
+      tip += joined ? "\nJoined to the attack: click to take it out" : "\nClick to join it to the attack";
+    }
+    stack_[s]->setToolTip(tip);
+    stack_[s]->setProperty("joined", joined);
     // The range bar: a segment per movement point left, up to the counter's width.
     if (slot.mp >= 0) {
       const int w = std::min(kCounterBox, slot.mp * 4);

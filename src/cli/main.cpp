@@ -10,8 +10,9 @@
 int main(int argc, char** argv) {
   // The program folder is the one that holds the executable, so that the
   // scenarios/ and default/ folders built next to it are found.
+  // Installed, they lie in share/marrowfield under the install prefix.
   const std::string dir = mf::cli::ExecutableDir();
-  if (!dir.empty()) mf::SetProgramDir(dir);
+  if (!dir.empty()) mf::SetProgramDir(mf::FindProgramDir(dir));
   const mf::cli::Args args(argv + 1, argv + argc);
   // Whatever a routine throws ends the program with one clear line and exit
   // code 1, never with an abort.

@@ -1,5 +1,6 @@
 #include "script_runner.h"
 
+#include <algorithm>
 #include <cstdlib>
 #include <exception>
 #include <filesystem>
@@ -8,6 +9,8 @@
 #include <sstream>
 #include <vector>
 
+#include "ai/ai_turn.h"
+#include "ai/stage_names.h"
 #include "combat/battle_window.h"
 #include "control/keyboard.h"
 #include "control/order_state.h"
@@ -243,6 +246,26 @@ bool Tick(Run&, const Words& a, std::string* why) {
   return true;
 }
 
+// The computer player for Game.CurRegime: "ai turn" plays its whole turn,
+// "ai AIClear AIFindAreas ..." runs those stages in that order. Every name
+// is checked before anything runs.
+bool AIStages(Run&, const Words& a, std::string* why) {
+  if (a.size() == 1 && a[0] == "turn") {
+    AITurn();
+    return true;
+  }
+  const std::vector<std::string> known = AIStageNames();
+  for (const std::string& name : a) {
+    if (std::find(known.begin(), known.end(), name) != known.end()) continue;
+    *why = "ai: no stage \"" + name + "\" (turn, or stages among:";
+    for (const std::string& k : known) *why += " " + k;
+    *why += ")";
+    return false;
+  }
+  for (const std::string& name : a) RunAIStage(name);
+  return true;
+}
+
 // A whole number of a script word, within lo..hi.
 bool WholeNumberIn(const std::string& word, long lo, long hi, long* n) {
   if (!IsWholeNumber(word)) return false;
@@ -386,6 +409,7 @@ const Command kCommands[] = {
     {"answer", 1, -1, "answer A [A ...]", &Answer},
     {"on", 1, -1, "on DIALOG ACTION ...", &On},
     {"tick", 0, 1, "tick [N]", &Tick},
+    {"ai", 1, -1, "ai turn | ai NAME [NAME ...]", &AIStages},
     {"start", 0, -1,
      "start [fog=0/1] [exploration=0/1] [pbem=0/1] [passwords=0/1] [aibonus=0/1] [ai=1,0,..] [email=a,b,..]",
      &Start},

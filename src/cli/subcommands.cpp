@@ -8,6 +8,7 @@
 #include "files/scenario_file.h"
 #include "files/scenario_schema.h"
 #include "model/reset.h"
+#include "play.h"
 #include "platform/scripted_platform.h"
 #include "script_runner.h"
 #include "session.h"
@@ -26,7 +27,10 @@ constexpr const char* kUsage =
     "  scramble FILE                scrambles a plain scenario file in place\n"
     "  unscramble FILE              makes a scrambled scenario file plain in place\n"
     "  run SCRIPT                   runs a script (see docs/cli.md)\n"
-    "  play FILE --turns N [--seed S] [-o OUT]\n"
+    "  play FILE --turns N [--seed S] [-o OUT] [--check]\n"
+    "                               plays N rounds with the computer on every side\n"
+    "  balance FILE --games N --turns T [--jobs J] [--csv OUT.csv]\n"
+    "                               how each regime fares over N computer games\n"
     "  random ... -o FILE\n"
     "  compile SOURCE -o FILE       a scenario from its readable source (see docs/content-format.md)\n";
 
@@ -241,11 +245,6 @@ int RunCommand(const Args& args, std::ostream& out, std::ostream& err) {
   return RunScriptFile(args[0], out, err);
 }
 
-int PlayCommand(const Args&, std::ostream&, std::ostream& err) {
-  err << "not available yet: play\n";
-  return 1;
-}
-
 int RandomCommand(const Args&, std::ostream&, std::ostream& err) {
   err << "not available yet: random\n";
   return 1;
@@ -266,6 +265,7 @@ int CliMain(const Args& argv, std::ostream& out, std::ostream& err) {
   if (cmd == "unscramble") return ScrambleCommand(args, false, out, err);
   if (cmd == "run") return RunCommand(args, out, err);
   if (cmd == "play") return PlayCommand(args, out, err);
+  if (cmd == "balance") return BalanceCommand(args, out, err);
   if (cmd == "random") return RandomCommand(args, out, err);
   if (cmd == "compile") return CompileCommand(args, out, err);
   if (cmd == "help" || cmd == "--help" || cmd == "-h") {

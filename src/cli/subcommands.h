@@ -16,7 +16,6 @@ int ExportCommand(const Args& args, std::ostream& out, std::ostream& err);
 int ImportJsonCommand(const Args& args, std::ostream& out, std::ostream& err);
 int ScrambleCommand(const Args& args, bool scramble, std::ostream& out, std::ostream& err);
 int RunCommand(const Args& args, std::ostream& out, std::ostream& err);
-int PlayCommand(const Args& args, std::ostream& out, std::ostream& err);
 int RandomCommand(const Args& args, std::ostream& out, std::ostream& err);
 
 // Dispatches argv[1..] to a subcommand; the usage text for none or an unknown one.

@@ -93,7 +93,7 @@ TEST_F(OrdersWindowTest, TheButtonsFollowTheSelection) {
   PressMap(Centre(15, 7));
   EXPECT_TRUE(window->orderButton("attack")->isEnabled());
   EXPECT_FALSE(window->orderButton("move")->isEnabled());
-  EXPECT_EQ(window->orderButton("command")->toolTip(), "[C]hange Command");
+  EXPECT_TRUE(window->orderButton("command")->toolTip().startsWith("[C]hange Command"));
 }
 
 TEST_F(OrdersWindowTest, AMoveDrawsItsReachDarkAndAPressCarriesItOut) {

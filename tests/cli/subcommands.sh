@@ -112,8 +112,6 @@ if "$cli" scramble scenario.mf1 2> err.txt; then fail "scramble of a scrambled f
 [ "$(cat err.txt)" = "scramble: scenario.mf1 is already scrambled" ] || fail "wrong refusal: $(cat err.txt)"
 
 # Parts of the game that are not built yet say so.
-if "$cli" play scenario.mf1 --turns 2 2> err.txt; then fail "play succeeded"; fi
-[ "$(cat err.txt)" = "not available yet: play" ] || fail "wrong play message: $(cat err.txt)"
 if "$cli" random -o r.mf1 2> err.txt; then fail "random succeeded"; fi
 [ "$(cat err.txt)" = "not available yet: random" ] || fail "wrong random message: $(cat err.txt)"
 # A script whose check fails.

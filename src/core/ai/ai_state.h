@@ -62,6 +62,10 @@ struct AIRec {
   // Kept in memory from one computer turn to the next; never saved.
   double SupplyRatio = 0;
 
+  // The player is quitting the program: a computer turn under way stops
+  // after the stage it is in.
+  bool StopRequested = false;
+
   // Logistics and production.
   Long ShqNeedsLand[kShqCap + 1] = {};
   Long BestType[kAITheaters][kAIClasses + 1] = {};

@@ -162,7 +162,7 @@ bool NewTurnDialog::SavePbemButton(const std::string& path, std::string* why) {
     return false;
   }
   // The save of the menu, with the path given when a script names it.
-  const std::string file = path.empty() ? Plat().SaveFileDialog("Save", ScenarioFilter(), ScenariosDir()) : path;
+  const std::string file = path.empty() ? Plat().SaveFileDialog("Save", ScenarioFilter(), UserGameDir()) : path;
   if (!SaveToPath(file)) {
     *why = "Save canceled";
     return false;

@@ -143,7 +143,8 @@ bool SaveToPath(const std::string& path) {
   return true;
 }
 
-bool SaveCommand() { return SaveToPath(Plat().SaveFileDialog("Save", ScenarioFilter(), ScenariosDir())); }
+// Saves go to the player's own folder: the install folder may be read-only.
+bool SaveCommand() { return SaveToPath(Plat().SaveFileDialog("Save", ScenarioFilter(), UserGameDir())); }
 
 void LoadCommand() {
   const std::string path = Plat().OpenFileDialog("Load", ScenarioFilter(), ScenariosDir());

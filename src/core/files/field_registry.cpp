@@ -12,6 +12,7 @@
 
 #include <cmath>
 #include <cstdint>
+#include <cstdio>
 #include <limits>
 #include <type_traits>
 #include <utility>
@@ -35,6 +36,7 @@ enum class Kind {
   kBool,   // a long holding -1 (true) or 0 (false)
   kFlag,   // a C++ bool of the running program, read as -1 / 0
   kText,   // UTF-8 text
+  kDouble, // a floating value kept in memory only
 };
 
 // One index dimension: readable 0..max (slot 0 exists and reads as none),
@@ -52,7 +54,21 @@ struct FieldDef {
   int ndims = 0;
   Dim dims[2];
   Accessor at = nullptr;
+  // A plugged-in table instead of an accessor: its first element, the size
+  // of one element and the length of a row of a two-index table.
+  unsigned char* base = nullptr;
+  std::size_t elemSize = 0;
+  int rowLength = 0;
 };
+
+void* AddressOf(const FieldDef& f, const Idx& i) {
+  if (f.at) return f.at(i);
+  const std::size_t n = f.ndims == 2 ? static_cast<std::size_t>(i.f[0]) * static_cast<std::size_t>(f.rowLength) +
+                                           static_cast<std::size_t>(i.f[1])
+                        : f.ndims == 1 ? static_cast<std::size_t>(i.f[0])
+                                       : 0;
+  return f.base + n * f.elemSize;
+}
 
 struct RecordDef {
   std::string name;
@@ -68,8 +84,9 @@ constexpr Kind KindOf() {
   if constexpr (std::is_same_v<T, Long>) return Kind::kLong;
   else if constexpr (std::is_same_v<T, Short>) return Kind::kShort;
   else if constexpr (std::is_same_v<T, bool>) return Kind::kFlag;
+  else if constexpr (std::is_same_v<T, double>) return Kind::kDouble;
   else {
-    static_assert(std::is_same_v<T, std::string>, "a registered field is a long, short, bool or text");
+    static_assert(std::is_same_v<T, std::string>, "a registered field is a long, short, bool, double or text");
     return Kind::kText;
   }
 }
@@ -264,9 +281,17 @@ std::vector<RecordDef> BuildRegistry() {
   return reg;
 }
 
-const std::vector<RecordDef>& Registry() {
-  static const std::vector<RecordDef> registry = BuildRegistry();
+std::vector<RecordDef>& Registry() {
+  static std::vector<RecordDef> registry = BuildRegistry();
   return registry;
+}
+
+Kind KindOfPlugged(PluggedKind k) {
+  switch (k) {
+    case PluggedKind::kShort: return Kind::kShort;
+    case PluggedKind::kDouble: return Kind::kDouble;
+    default: return Kind::kLong;
+  }
 }
 
 // ---- Names -----------------------------------------------------------------
@@ -474,6 +499,13 @@ bool TruthOf(const std::string& value) {
   return Val(t) != 0;
 }
 
+// A floating value as short as it reads back exactly: 0.5, 1, 0.333333333.
+std::string DoubleText(double v) {
+  char buf[32];
+  std::snprintf(buf, sizeof buf, "%.9g", v);
+  return buf;
+}
+
 }  // namespace
 
 bool GetField(const std::string& name, std::string* value, std::string* why) {
@@ -482,7 +514,7 @@ bool GetField(const std::string& name, std::string* value, std::string* why) {
   const FieldDef* f = nullptr;
   Idx idx;
   if (!Resolve(name, false, &f, &idx, why)) return false;
-  void* p = f->at(idx);
+  void* p = AddressOf(*f, idx);
   switch (f->kind) {
     case Kind::kLong:
     case Kind::kBool:
@@ -497,6 +529,9 @@ bool GetField(const std::string& name, std::string* value, std::string* why) {
     case Kind::kText:
       *value = *static_cast<std::string*>(p);
       break;
+    case Kind::kDouble:
+      *value = DoubleText(*static_cast<double*>(p));
+      break;
   }
   return true;
 }
@@ -508,7 +543,7 @@ bool SetField(const std::string& name, const std::string& value, std::string* wh
   const RecordDef* rec = nullptr;
   Idx idx;
   if (!Resolve(name, true, &f, &idx, why, &rec)) return false;
-  void* p = f->at(idx);
+  void* p = AddressOf(*f, idx);
   std::int64_t n = 0;
   // A saved field takes only what a load of the file would keep as it is.
   auto inFileRange = [&](std::int64_t v) {
@@ -545,8 +580,40 @@ bool SetField(const std::string& name, const std::string& value, std::string* wh
     case Kind::kText:
       *static_cast<std::string*>(p) = value;
       break;
+    case Kind::kDouble:
+      *static_cast<double*>(p) = Val(value);
+      break;
   }
   return true;
+}
+
+void AddFieldRecord(const std::string& record, const std::vector<PluggedField>& fields) {
+  RecordDef r;
+  r.name = record;
+  for (const PluggedField& pf : fields) {
+    FieldDef f;
+    f.name = pf.name;
+    f.kind = KindOfPlugged(pf.kind);
+    f.ndims = pf.ndims;
+    // Slot 0 of a one-index table reads as none; a two-index table is
+    // stored 0-based in both, as the route planes are.
+    if (pf.ndims == 1) f.dims[0] = {pf.extent[0] - 1, 1};
+    if (pf.ndims == 2) {
+      f.dims[0] = {pf.extent[0] - 1, 0};
+      f.dims[1] = {pf.extent[1] - 1, 0};
+    }
+    f.base = static_cast<unsigned char*>(pf.base);
+    f.elemSize = pf.elemSize;
+    f.rowLength = pf.extent[1];
+    r.fields.push_back(std::move(f));
+  }
+  for (auto& existing : Registry()) {
+    if (existing.name == record) {
+      existing = std::move(r);
+      return;
+    }
+  }
+  Registry().push_back(std::move(r));
 }
 
 std::vector<std::string> FieldPatterns() {

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cctype>
+#include <cstdlib>
 #include <filesystem>
 #include <system_error>
 
@@ -60,5 +61,38 @@ std::string ResolveGamePath(const std::string& gamePath) {
 }
 
 std::string ScenariosDir() { return ResolveGamePath("\\scenarios"); }
+
+std::string FindProgramDir(const std::string& exeDir) {
+  std::error_code ec;
+  const fs::path exe = exeDir.empty() ? fs::path(".") : fs::path(exeDir);
+  if (fs::is_directory(exe / "default", ec)) return exe.string();
+  const fs::path installed = exe / ".." / "share" / "marrowfield";
+  if (fs::is_directory(installed / "default", ec)) return fs::weakly_canonical(installed, ec).string();
+  return exe.string();
+}
+
+namespace {
+
+// $VAR when set and absolute, else $HOME/fallback, else the temporary folder.
+fs::path XdgDir(const char* var, const char* fallback) {
+  const char* v = std::getenv(var);
+  if (v && *v && fs::path(v).is_absolute()) return fs::path(v);
+  const char* home = std::getenv("HOME");
+  if (home && *home) return fs::path(home) / fallback;
+  std::error_code ec;
+  return fs::temp_directory_path(ec);
+}
+
+std::string Made(const fs::path& dir) {
+  std::error_code ec;
+  fs::create_directories(dir, ec);
+  return dir.string();
+}
+
+}  // namespace
+
+std::string UserGameDir() { return Made(XdgDir("XDG_DATA_HOME", ".local/share") / "marrowfield"); }
+
+std::string UserSettingsDir() { return Made(XdgDir("XDG_CONFIG_HOME", ".config") / "marrowfield"); }
 
 }  // namespace mf

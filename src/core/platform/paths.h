@@ -17,4 +17,17 @@ std::string ResolveGamePath(const std::string& gamePath);
 // The program's "\scenarios" folder.
 std::string ScenariosDir();
 
+// The program folder for an executable in `exeDir`: the executable's own
+// folder when default/ lies beside it (a build), else the installed data
+// folder share/marrowfield under the install prefix (exeDir/../share/
+// marrowfield). The executable's folder when neither has the pictures.
+std::string FindProgramDir(const std::string& exeDir);
+
+// The player's own game folder, where saves and play-by-mail files go:
+// $XDG_DATA_HOME/marrowfield (~/.local/share/marrowfield), made when first
+// asked for. The game never needs to write into its install folder.
+std::string UserGameDir();
+// The player's settings folder: $XDG_CONFIG_HOME/marrowfield (~/.config/marrowfield).
+std::string UserSettingsDir();
+
 }  // namespace mf

@@ -52,6 +52,9 @@ class Platform {
   // Whether the mouse button is held down now; a dragged scroll bar waits for
   // its release before the map is redrawn.
   virtual bool MouseButtonDown() { return false; }
+  // One line of the computer player's analysis log, as it is written. The
+  // window appends it to its analysis list; the headless program prints it.
+  virtual void AnalysisLine(const std::string&) {}
 };
 
 // The installed platform. Before anything is installed a scripted platform

@@ -41,6 +41,14 @@ std::string ScriptedPlatform::InputPrompt(const std::string& text, const std::st
 
 void ScriptedPlatform::PlaySound(int slot) { sounds_.push_back(slot); }
 
+// Analysis lines are printed but not kept among the events: a long game
+// writes thousands of them, and the message cursor of a script has no use
+// for them.
+void ScriptedPlatform::AnalysisLine(const std::string& line) {
+  if (printer) printer({PlatformEvent::kAnalysis, "", line, ""});
+  if (keepAnalysis) analysis_.push_back(line);
+}
+
 std::string ScriptedPlatform::OpenFileDialog(const std::string& title, const std::string&,
                                              const std::string&) {
   std::string path;
@@ -105,6 +113,7 @@ void ScriptedPlatform::Clear() {
   dialogs_.clear();
   events_.clear();
   sounds_.clear();
+  analysis_.clear();
   lastError.clear();
 }
 
@@ -121,6 +130,8 @@ std::string FormatEvent(const PlatformEvent& e) {
       return "DIALOG [" + e.title + "] " + e.text;
     case PlatformEvent::kSound:
       return "SOUND " + e.text;
+    case PlatformEvent::kAnalysis:
+      return "AI " + e.text;
   }
   return "";
 }

@@ -15,7 +15,7 @@
 namespace mf {
 
 struct PlatformEvent {
-  enum Kind { kMessage, kQuestion, kPrompt, kFileDialog, kDialogAction, kSound } kind = kMessage;
+  enum Kind { kMessage, kQuestion, kPrompt, kFileDialog, kDialogAction, kSound, kAnalysis } kind = kMessage;
   std::string title;
   std::string text;
   std::string answer;  // "yes"/"no" for questions, the text for prompts, the path for file dialogs
@@ -43,6 +43,8 @@ class ScriptedPlatform : public Platform {
                              const std::string& startDir) override;
   void RunDialog(HumbleDialog& dialog) override;
   unsigned TickCount() override { return ticks_ += 10; }
+  // Keeps the line (see AnalysisLines) and hands it to the printer.
+  void AnalysisLine(const std::string& line) override;
 
   // Answers for the next message boxes and prompts, in order: "yes", "no",
   // "ok", "cancel", or any text (for prompts). A question with nothing queued
@@ -62,6 +64,11 @@ class ScriptedPlatform : public Platform {
   // Texts of the message boxes (OK and Yes/No) seen so far.
   std::vector<std::string> Messages() const;
   std::vector<int> Sounds() const { return sounds_; }
+  // The computer player's analysis log lines written so far, oldest first.
+  const std::vector<std::string>& AnalysisLines() const { return analysis_; }
+  // Whether AnalysisLines keeps the lines; a long headless game that only
+  // prints them can turn the keeping off.
+  bool keepAnalysis = true;
   void Clear();
 
   // Called with each event as it happens (the CLI prints them).
@@ -76,11 +83,12 @@ class ScriptedPlatform : public Platform {
   std::map<std::string, std::deque<std::vector<DialogAction>>> dialogs_;
   std::vector<PlatformEvent> events_;
   std::vector<int> sounds_;
+  std::vector<std::string> analysis_;
   unsigned ticks_ = 0;
 };
 
 // Formats an event the way marrowfield-cli prints it:
-// "MSG [title] text", "ASK [title] text -> answer".
+// "MSG [title] text", "ASK [title] text -> answer", "AI line".
 std::string FormatEvent(const PlatformEvent& e);
 
 }  // namespace mf

@@ -103,7 +103,8 @@ TEST_F(ScenarioFlow, SaveCommandSavesScrambledWithItsMessages) {
   EXPECT_EQ(Shown(), std::vector<std::string>{"Saved"});
   EXPECT_EQ(LastTitle(), "File I/O");
   EXPECT_EQ(dialogs.lastFilter, "Marrowfield (.mf1) files|*.mf1");
-  EXPECT_EQ(dialogs.lastDir, ScenariosDir());
+  // Saves start in the player's own folder, never in the install folder.
+  EXPECT_EQ(dialogs.lastDir, UserGameDir());
   EXPECT_EQ(Flipped(ReadBytes(path)), SerializeScenario());
   EXPECT_FALSE(fs::exists(path + ".tmp"));
 

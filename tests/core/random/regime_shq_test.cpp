@@ -1,6 +1,6 @@
 // A regime's SHQ made in one stroke: for the start towns of a new random
 // game and for the towns where the computer founds a new staff.
-#include "random/regime_shq.h"
+#include "orders/regime_shq.h"
 
 #include "model/capacity.h"
 #include "support/core_test.h"

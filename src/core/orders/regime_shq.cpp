@@ -1,4 +1,4 @@
-#include "random/regime_shq.h"
+#include "orders/regime_shq.h"
 
 #include "engine/officers.h"
 #include "model/arith.h"
