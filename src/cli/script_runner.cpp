@@ -1,6 +1,7 @@
 #include "script_runner.h"
 
 #include <algorithm>
+#include <cstdlib>
 #include <exception>
 #include <filesystem>
 #include <ostream>
@@ -22,6 +23,7 @@
 #include "files/field_registry.h"
 #include "model/arith.h"
 #include "model/game_state.h"
+#include "model/invariants.h"
 #include "model/reset.h"
 #include "model/rnd.h"
 #include "orders/command.h"
@@ -67,7 +69,8 @@ struct Run {
       if (tempDir.empty()) {
         std::random_device rd;
         tempDir = (fs::temp_directory_path() / ("mfscript_" + std::to_string(rd()) + std::to_string(rd()))).string();
-        fs::create_directories(tempDir);
+        std::error_code ec;
+        fs::create_directories(tempDir, ec);
       }
       return (fs::path(tempDir) / p.substr(p.size() > 4 ? 5 : 4)).lexically_normal().string();
     }
@@ -610,6 +613,25 @@ struct ProgramDirGuard {
   std::string dir;
 };
 
+// With MF_CHECK_INVARIANTS set (the test suite sets it), every end of a
+// regime's turn checks the game's invariants, and the first broken one fails
+// the script at the line that played the turn.
+struct InvariantWatch {
+  std::string problem;
+  InvariantWatch() {
+    const char* on = std::getenv("MF_CHECK_INVARIANTS");
+    if (on == nullptr || *on == '\0' || std::string(on) == "0") return;
+    SetTurnEndWatcher([this] {
+      if (!problem.empty()) return;
+      const std::string p = CheckInvariants();
+      if (!p.empty())
+        problem = "invariant broken when the turn of regime " + std::to_string(Game.CurRegime) + " in game turn " +
+                  std::to_string(Game.Turn) + " ended: " + p;
+    });
+  }
+  ~InvariantWatch() { SetTurnEndWatcher({}); }
+};
+
 // Puts the platform back to the built-in one however the run ends.
 struct PlatformGuard {
   explicit PlatformGuard(Platform* p) { InstallPlatform(p); }
@@ -625,6 +647,7 @@ int RunScriptText(const std::string& text, const std::string& name, const std::s
   PlatformGuard guard(&run.platform);
   ProgramDirGuard programDir;
   BattleLogPrinter battleLog(out);
+  InvariantWatch invariants;
   StartFresh();
 
   std::istringstream lines(text);
@@ -638,6 +661,10 @@ int RunScriptText(const std::string& text, const std::string& name, const std::s
       ok = RunLine(run, line, &why);
     } catch (const std::exception& e) {
       why = std::string("internal error: ") + e.what();
+    }
+    if (ok && !invariants.problem.empty()) {
+      ok = false;
+      why = invariants.problem;
     }
     if (!ok) {
       out.flush();

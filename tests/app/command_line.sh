@@ -34,6 +34,18 @@ if "$APP" --smoke-test --program-dir "$OUT/empty_program_dir" 2>"$OUT/command_li
 fi
 grep -q 'hex3b.bmp' "$OUT/command_line.err" || fail "missing picture not named: $(cat "$OUT/command_line.err")"
 
+# A scenario whose map folder is a name far too long for any disk: the
+# pictures are not found there, and the program shows the game and ends
+# normally instead of aborting.
+long=$(head -c 5000 /dev/zero | tr '\0' a)
+printf 'new 12 10\nset Game.DirMap "\\%s"\nsave %s\n' "$long" "$OUT/command_line_long.mf1" > "$OUT/long.mfs"
+"$CLI" run "$OUT/long.mfs" >/dev/null || fail "making the long-folder scenario failed"
+rm -f "$OUT/command_line_long.png"
+"$APP" --screenshot "$OUT/command_line_long.png" "$OUT/command_line_long.mf1" 2>"$OUT/command_line.err" \
+  || fail "the long-folder scenario ended the program: $(tail -3 "$OUT/command_line.err")"
+grep -q "^MSG \[Marrowfield\] Loaded$" "$OUT/command_line.err" || fail "the long-folder scenario did not load"
+[ -s "$OUT/command_line_long.png" ] || fail "no screenshot of the long-folder scenario"
+
 # Unknown options.
 if "$APP" --bogus 2>"$OUT/command_line.err"; then fail "--bogus accepted"; fi
 grep -q "unknown option --bogus" "$OUT/command_line.err" || fail "no reason for --bogus"

@@ -3,7 +3,9 @@
 #include <filesystem>
 #include <random>
 
+#include "control/turn_cycle.h"
 #include "model/engine_vars.h"
+#include "model/invariants.h"
 #include "model/reset.h"
 #include "model/rnd.h"
 #include "platform/paths.h"
@@ -26,9 +28,17 @@ void CoreTest::SetUp() {
                 .string();
   fs::create_directories(tempDir);
   SetProgramDir(tempDir);
+  // Every game a test plays keeps the game's invariants after every turn.
+  SetTurnEndWatcher([] {
+    const std::string problem = CheckInvariants();
+    if (!problem.empty())
+      ADD_FAILURE() << "when the turn of regime " << Game.CurRegime << " in game turn " << Game.Turn
+                    << " ended: " << problem;
+  });
 }
 
 void CoreTest::TearDown() {
+  SetTurnEndWatcher({});
   InstallPlatform(nullptr);
   std::error_code ec;
   fs::remove_all(tempDir, ec);

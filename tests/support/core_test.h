@@ -1,6 +1,7 @@
 // Base fixture of the core suites: every test starts on zeroed tables with
 // engine variable defaults, a fresh scripted platform and a fixed seed, and
-// gets its own empty program folder.
+// gets its own empty program folder. Whenever a regime's turn ends in a test
+// game, CheckInvariants() is run and a broken invariant fails the test.
 #pragma once
 
 #include <gtest/gtest.h>

@@ -7,6 +7,7 @@
 #include <fstream>
 #include <iterator>
 #include <string>
+#include <utility>
 
 #include "control/turn_cycle.h"
 #include "files/scenario_file.h"
@@ -16,6 +17,7 @@
 #include "model/engine_vars.h"
 #include "model/game_state.h"
 #include "model/reset.h"
+#include "platform/file_io.h"
 #include "platform/paths.h"
 #include "platform/platform.h"
 #include "view/sprite_table.h"
@@ -46,16 +48,28 @@ bool CanOpenForReading(const std::string& path) {
   return true;
 }
 
+// A file that stands but cannot be read is refused before anything of the
+// game is touched, with its name and the reason.
+void RefuseUnreadable(const std::string& path, const std::string& why) {
+  Plat().ShowMessage("Cannot read " + path + ": " + why + ".", "File I/O");
+}
+
 }  // namespace
 
 bool ReadFile(const std::string& path) {
   if (!CanOpenForReading(path)) return false;
+  std::string bytes, why;
+  bool scrambled = false;
+  if (!ReadPlainBytes(path, &bytes, &scrambled, &why)) {
+    RefuseUnreadable(path, why);
+    return false;
+  }
   UI.EditMode = 0;
-  std::string bytes;
-  ReadPlainBytes(path, bytes);
   const long version = ParseScenario(bytes);
   if (version > kFileVersion) {
-    // The file stays unscrambled on disk: nothing turns it back.
+    // A newer file is left plain on disk, as a refused load has always left
+    // it: nothing turns it back.
+    if (scrambled) ReplaceFileAtomically(path, bytes);
     Plat().ShowMessage(std::string("Please, you have to get a newer version of Marrowfield on the internet: ") +
                            kDownloadAddress,
                        "");
@@ -63,7 +77,7 @@ bool ReadFile(const std::string& path) {
     return false;
   }
   // Whatever state the file was in, it ends scrambled.
-  Transform(path);
+  if (!scrambled) LeaveScrambled(path, std::move(bytes));
   if (EV(704) == 0) Plat().ShowMessage("Loaded", "");
   RepairEngineVarsAfterLoad(version, false);
   RecomputeCountersAndSprites();
@@ -71,6 +85,13 @@ bool ReadFile(const std::string& path) {
 }
 
 bool doGoLoad(const std::string& path) {
+  // A file that stands but cannot be read (a folder, a device, no
+  // permission) is refused before the game in memory is cleared.
+  std::string why;
+  if (!path.empty() && FileExists(path) && !CanReadFile(path, &why)) {
+    RefuseUnreadable(path, why);
+    return false;
+  }
   onlyclear();
   if (!ReadFile(path)) return false;
   if (Game.Turn > 0) {
@@ -94,11 +115,15 @@ bool doGoLoad(const std::string& path) {
 
 bool ImportFile(const std::string& path) {
   if (!CanOpenForReading(path)) return false;
+  std::string bytes, why;
+  bool scrambled = false;
+  if (!ReadPlainBytes(path, &bytes, &scrambled, &why)) {
+    RefuseUnreadable(path, why);
+    return false;
+  }
   UI.EditMode = 1;
-  std::string bytes;
-  ReadPlainBytes(path, bytes);
   const long version = ParseScenario(bytes, true);
-  Transform(path);
+  if (!scrambled) LeaveScrambled(path, std::move(bytes));
   RepairEngineVarsAfterLoad(version, true);
   RecomputeCountersAndSprites();
   return true;

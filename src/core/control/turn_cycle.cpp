@@ -36,6 +36,11 @@ TurnStepWatcher& Watcher() {
   return watcher;
 }
 
+TurnEndWatcher& EndWatcher() {
+  static TurnEndWatcher watcher;
+  return watcher;
+}
+
 void Step(const std::string& name) {
   if (Watcher()) Watcher()(name);
 }
@@ -243,7 +248,10 @@ void ChainScenario() {
 
 void SetTurnStepWatcher(TurnStepWatcher watcher) { Watcher() = std::move(watcher); }
 
+void SetTurnEndWatcher(TurnEndWatcher watcher) { EndWatcher() = std::move(watcher); }
+
 void NextTurn() {
+  if (EndWatcher()) EndWatcher()();
   UI.PendingFile.clear();
   UI.ShowEditorPanel = false;
 

@@ -37,4 +37,10 @@ bool EndTurnAsks();
 using TurnStepWatcher = std::function<void(const std::string& step)>;
 void SetTurnStepWatcher(TurnStepWatcher watcher);
 
+// Called at the top of the next-turn driver: a regime's turn has ended (or a
+// game is about to begin) and nothing of the next turn has been done yet.
+// The tests check the game's invariants here; play leaves it empty.
+using TurnEndWatcher = std::function<void()>;
+void SetTurnEndWatcher(TurnEndWatcher watcher);
+
 }  // namespace mf

@@ -15,7 +15,6 @@
 #include <cstring>
 #include <filesystem>
 #include <fstream>
-#include <iterator>
 #include <limits>
 #include <system_error>
 
@@ -25,6 +24,7 @@
 #include "model/engine_vars.h"
 #include "model/game_state.h"
 #include "model/reset.h"
+#include "platform/file_io.h"
 #include "platform/platform.h"
 
 namespace fs = std::filesystem;
@@ -299,55 +299,12 @@ class WriteVisitor {
 // ---------------------------------------------------------------------------
 // Files on disk
 
-bool ReadAllBytes(const std::string& path, std::string& bytes) {
-  bytes.clear();
-  std::error_code ec;
-  if (!fs::is_regular_file(path, ec)) return false;
-  std::ifstream f(path, std::ios::binary);
-  if (!f) return false;
-  bytes.assign(std::istreambuf_iterator<char>(f), std::istreambuf_iterator<char>());
-  return !f.bad();
-}
-
 void FlipTopBits(std::string& bytes) {
   for (char& c : bytes) c = static_cast<char>(static_cast<unsigned char>(c) ^ 0x80u);
 }
 
-// The temporary file a save writes first, next to its target.
-std::string TempPathFor(const std::string& path) { return path + ".tmp"; }
-
-// Writes bytes to a temporary file in the same folder, flushes it and renames
-// it over the target, so the target is either the old file or the new one.
-bool ReplaceFile(const std::string& path, const std::string& bytes) {
-  const std::string temp = TempPathFor(path);
-  std::error_code ec;
-  {
-    std::ofstream f(temp, std::ios::binary | std::ios::trunc);
-    if (!f) return false;
-    f.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
-    f.flush();
-    if (!f) {
-      f.close();
-      fs::remove(temp, ec);
-      return false;
-    }
-    f.close();
-    if (f.fail()) {
-      fs::remove(temp, ec);
-      return false;
-    }
-  }
-  fs::rename(temp, path, ec);
-  if (ec) {
-    std::error_code ignored;
-    fs::remove(temp, ignored);
-    return false;
-  }
-  return true;
-}
-
-// Overwrites a file in place; the fallback when no temporary file can be
-// made next to it.
+// Overwrites a file in place; the fallback of the scrambling transform when
+// no temporary file can be made next to it.
 bool OverwriteFile(const std::string& path, const std::string& bytes) {
   std::ofstream f(path, std::ios::binary | std::ios::trunc);
   if (!f) return false;
@@ -371,9 +328,9 @@ bool Transform(const std::string& path) {
     return false;
   }
   std::string bytes;
-  if (!ReadAllBytes(path, bytes)) return false;
+  if (!ReadWholeFile(path, &bytes, nullptr)) return false;
   FlipTopBits(bytes);
-  if (ReplaceFile(path, bytes)) return true;
+  if (ReplaceFileAtomically(path, bytes)) return true;
   return OverwriteFile(path, bytes);
 }
 
@@ -398,21 +355,23 @@ bool FileExists(const std::string& path) {
   return fs::exists(path, ec);
 }
 
-// Reads the bytes of a file to be loaded, unscrambling it on disk first when
-// its first number is 0.
-void ReadPlainBytes(const std::string& path, std::string& bytes) {
-  ReadAllBytes(path, bytes);
-  if (FirstNumber(bytes) == 0) {
-    Transform(path);
-    ReadAllBytes(path, bytes);
-  }
+bool ReadPlainBytes(const std::string& path, std::string* bytes, bool* wasScrambled, std::string* why) {
+  if (!ReadWholeFile(path, bytes, why)) return false;
+  *wasScrambled = FirstNumber(*bytes) == 0;
+  if (*wasScrambled) FlipTopBits(*bytes);
+  return true;
+}
+
+void LeaveScrambled(const std::string& path, std::string plain) {
+  FlipTopBits(plain);
+  ReplaceFileAtomically(path, plain);
 }
 
 bool WriteFile(const std::string& path) {
   if (path.empty()) return false;
   std::string bytes = SerializeScenario();
   FlipTopBits(bytes);
-  return ReplaceFile(path, bytes);
+  return ReplaceFileAtomically(path, bytes);
 }
 
 }  // namespace mf

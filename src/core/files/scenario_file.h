@@ -24,9 +24,17 @@ long ParseScenario(const std::string& plain, bool importOnly = false);
 
 // True when something exists at path.
 bool FileExists(const std::string& path);
-// Reads the bytes of a file to be loaded, unscrambling it on disk first when
-// its first number is 0.
-void ReadPlainBytes(const std::string& path, std::string& bytes);
+// Reads the bytes of a file to be loaded (false, with the reason, for what
+// is no readable regular file) and unscrambles them in memory when the first
+// number is 0. The file on disk is not touched: the end state the rules ask
+// for is reached without it (a scrambled file, transformed twice, is what it
+// was), a file on a read-only disk or in the install folder loads in full,
+// and a file is never left plain by a load that stops half way.
+bool ReadPlainBytes(const std::string& path, std::string* bytes, bool* wasScrambled, std::string* why);
+// A plain file is left scrambled after its read, as every read leaves a
+// file, by an atomic rewrite that keeps links and permissions; where it
+// cannot be written (a read-only disk, the install folder) it stays as it is.
+void LeaveScrambled(const std::string& path, std::string plain);
 
 // Writes the current game to path, scrambled, through a temporary file.
 // False on an I/O failure; the old file is then untouched.

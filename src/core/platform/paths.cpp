@@ -28,11 +28,14 @@ std::string ResolveGamePath(const std::string& gamePath) {
   std::string p = gamePath;
   std::replace(p.begin(), p.end(), '\\', '/');
   fs::path rel(p);
-  if (rel.is_absolute() && fs::exists(rel)) return rel.string();
+  // Every look at the disk takes its error-code form: a path from a scenario
+  // may be anything (far too long, a device, a loop of links), and it only
+  // ever means "not found".
+  std::error_code ec;
+  if (rel.is_absolute() && fs::exists(rel, ec)) return rel.string();
   // Game paths are relative to the program folder even with a leading slash.
   while (!p.empty() && p.front() == '/') p.erase(p.begin());
   fs::path exact = fs::path(Dir()) / p;
-  std::error_code ec;
   if (fs::exists(exact, ec)) return exact.string();
   // Walk part by part, matching names without regard to case.
   fs::path cur = Dir();
@@ -42,9 +45,9 @@ std::string ResolveGamePath(const std::string& gamePath) {
       bool found = false;
       if (fs::is_directory(cur, ec)) {
         const std::string want = Lower(part.string());
-        for (const auto& entry : fs::directory_iterator(cur, ec)) {
-          if (Lower(entry.path().filename().string()) == want) {
-            next = entry.path();
+        for (fs::directory_iterator it(cur, ec), end; !ec && it != end; it.increment(ec)) {
+          if (Lower(it->path().filename().string()) == want) {
+            next = it->path();
             found = true;
             break;
           }

@@ -1,10 +1,17 @@
 // The flows around the file: scrambling, save, load, import, the campaign
 // rules and the menu scenarios, with their messages.
+#include <chrono>
 #include <filesystem>
 #include <fstream>
 #include <string>
+#include <tuple>
+
+#include <sys/types.h>
+#include <sys/wait.h>
+#include <unistd.h>
 
 #include "control/scenario_flow.h"
+#include "control/turn_cycle.h"
 #include "files/scenario_file.h"
 #include "files_test_util.h"
 #include "model/game_state.h"
@@ -120,51 +127,164 @@ TEST_F(ScenarioFlow, SaveCommandCancelledOrFailing) {
   EXPECT_EQ(LastTitle(), "File I/O");
 }
 
-TEST_F(ScenarioFlow, InterruptedSaveLeavesTheOldFileIntact) {
+TEST_F(ScenarioFlow, ASaveLeavesAFileOfThePlayersNamedLikeATemporaryFileAlone) {
   const std::string path = SavedScenario("keep.mf1");
   const std::string old = ReadBytes(path);
   Regime[1].Name = "Changed";
+  // Something else holds the name a careless save would take for itself.
+  WriteBytes(path + ".tmp", "the player's own notes");
+  fs::create_directories(path + ".tmp-1/inner");
+  EXPECT_TRUE(WriteFile(path));
+  EXPECT_NE(ReadBytes(path), old);
+  EXPECT_EQ(ReadBytes(path + ".tmp"), "the player's own notes");
+  EXPECT_TRUE(fs::is_directory(path + ".tmp-1/inner"));
+}
 
-  // The temporary file cannot be made: something else holds its name.
-  fs::create_directories(path + ".tmp/inner");
-  EXPECT_FALSE(WriteFile(path));
-  EXPECT_EQ(ReadBytes(path), old);
-  dialogs.QueueFile(path);
-  SaveCommand();
-  EXPECT_EQ(Shown().back(), "Save canceled");
-  EXPECT_EQ(ReadBytes(path), old);
-  fs::remove_all(path + ".tmp");
+// Names in a folder that a save's temporary files have (".NAME.tmp-...").
+int TemporaryFilesIn(const std::string& dir) {
+  int n = 0;
+  for (const auto& e : fs::directory_iterator(dir))
+    if (e.path().filename().string().find(".tmp-") != std::string::npos) ++n;
+  return n;
+}
 
+TEST_F(ScenarioFlow, InterruptedSaveLeavesTheOldFileIntact) {
   // The rename cannot replace the target: a folder with files stands there.
+  SavedScenario("keep.mf1");
   const std::string folder = TempPath("folder.mf1");
   fs::create_directories(folder + "/inside");
   WriteBytes(folder + "/inside/old.txt", "old");
   EXPECT_FALSE(WriteFile(folder));
+  dialogs.QueueFile(folder);
+  SaveCommand();
+  EXPECT_EQ(Shown().back(), "Save canceled");
   EXPECT_EQ(ReadBytes(folder + "/inside/old.txt"), "old");
-  EXPECT_FALSE(fs::exists(folder + ".tmp"));  // the temporary file is cleaned up
+  EXPECT_EQ(TemporaryFilesIn(tempDir), 0);  // the temporary file is cleaned up
 }
 
+// The save runs as a player without write permission on the folder: as
+// itself when it is not root, else in a child process that has become the
+// user nobody (root writes anywhere, so it proves nothing itself).
 TEST_F(ScenarioFlow, SaveIntoAFolderWithoutWritePermission) {
   const std::string path = SavedScenario("keep.mf1");
   const std::string old = ReadBytes(path);
   Regime[1].Name = "Changed";
-  // Not a barrier for root, for whom this test is skipped.
   const std::string locked = TempPath("locked");
   fs::create_directories(locked);
   const std::string lockedFile = locked + "/game.mf1";
   WriteBytes(lockedFile, old);
-  fs::permissions(locked, fs::perms::owner_read | fs::perms::owner_exec);
-  {
-    std::ofstream probe(locked + "/probe");
-    if (probe) {
-      probe.close();
-      fs::permissions(locked, fs::perms::owner_all);
-      GTEST_SKIP() << "running with rights that ignore folder permissions";
+  fs::permissions(tempDir, fs::perms::owner_all | fs::perms::others_exec | fs::perms::group_exec);
+  int saved = -1;
+  if (geteuid() != 0) {
+    fs::permissions(locked, fs::perms::owner_read | fs::perms::owner_exec);
+    saved = WriteFile(lockedFile) ? 1 : 0;
+  } else {
+    constexpr uid_t kNobody = 65534;
+    ASSERT_EQ(chown(lockedFile.c_str(), kNobody, kNobody), 0);
+    ASSERT_EQ(chown(locked.c_str(), kNobody, kNobody), 0);
+    fs::permissions(locked, fs::perms::owner_read | fs::perms::owner_exec);
+    const pid_t child = fork();
+    ASSERT_GE(child, 0);
+    if (child == 0) {
+      const bool dropped = setgid(kNobody) == 0 && setuid(kNobody) == 0;
+      _exit(!dropped ? 3 : WriteFile(lockedFile) ? 1 : 0);
     }
+    int status = 0;
+    ASSERT_EQ(waitpid(child, &status, 0), child);
+    ASSERT_TRUE(WIFEXITED(status));
+    saved = WEXITSTATUS(status);
   }
-  EXPECT_FALSE(WriteFile(lockedFile));
+  EXPECT_EQ(saved, 0) << "1: the save went through; 3: the child could not become nobody";
   EXPECT_EQ(ReadBytes(lockedFile), old);
+  EXPECT_EQ(TemporaryFilesIn(locked), 0);
   fs::permissions(locked, fs::perms::owner_all);
+}
+
+// A scrambled file is read in memory: neither its bytes nor its time change,
+// and a plain one is scrambled after reading.
+TEST_F(ScenarioFlow, AScrambledFileIsLeftUntouchedAndAPlainOneEndsScrambled) {
+  const std::string path = SavedScenario("game.mf1");
+  const std::string scrambled = ReadBytes(path);
+  const auto past = fs::last_write_time(path) - std::chrono::hours(24 * 400);
+  fs::last_write_time(path, past);
+  onlyclear();
+  ASSERT_TRUE(ReadFile(path));
+  EXPECT_EQ(Unit[2].Name, "2nd Rifles");
+  EXPECT_EQ(ReadBytes(path), scrambled);
+  EXPECT_EQ(fs::last_write_time(path), past);
+  ASSERT_TRUE(ImportFile(path));
+  EXPECT_EQ(ReadBytes(path), scrambled);
+  EXPECT_EQ(fs::last_write_time(path), past);
+
+  const std::string plainPath = TempPath("plain.mf1");
+  WriteBytes(plainPath, Flipped(scrambled));
+  fs::permissions(plainPath, fs::perms::owner_read | fs::perms::owner_write);
+  onlyclear();
+  ASSERT_TRUE(ReadFile(plainPath));
+  EXPECT_EQ(Unit[2].Name, "2nd Rifles");
+  EXPECT_EQ(ReadBytes(plainPath), scrambled);
+  EXPECT_EQ(fs::status(plainPath).permissions(), fs::perms::owner_read | fs::perms::owner_write);
+}
+
+// A path that stands but is no readable file is refused before the load
+// clears anything, and so is its import.
+TEST_F(ScenarioFlow, AFolderOrADeviceIsRefusedAndTheGameKept) {
+  SavedScenario("game.mf1");
+  const std::string folder = TempPath("folder.mf1");
+  fs::create_directories(folder);
+  dialogs.Clear();
+  EXPECT_FALSE(doGoLoad(folder));
+  EXPECT_FALSE(doGoLoad("/dev/null"));
+  EXPECT_FALSE(ImportFile(folder));
+  EXPECT_EQ(Shown(), (std::vector<std::string>{"Cannot read " + folder + ": it is a folder.",
+                                              "Cannot read /dev/null: it is not a regular file.",
+                                              "Cannot read " + folder + ": it is a folder."}));
+  EXPECT_EQ(Game.MapW, 12);
+  EXPECT_EQ(Unit[2].Name, "2nd Rifles");
+  EXPECT_EQ(Type[1].Name, "Rifles");
+}
+
+// A damaged file with a negative price, a frontsize limit that doubles past
+// the end of a long and political points at the very bottom, loaded and
+// played for two turns: nothing wraps round (the sanitizer build of the
+// suite would report it), and the values stay where the rules keep them.
+TEST_F(ScenarioFlow, ADamagedFileWithExtremeValuesPlaysTwoTurns) {
+  SavedScenario("x.mf1");
+  // A town of each side that makes political points for its SHQ every turn.
+  for (const auto& [r, x, y] : {std::tuple{1, 2, 2}, std::tuple{2, 8, 8}}) {
+    Hex[x][y].Land = kUrban;
+    Hex[x][y].Pop = 20000;
+    Hex[x][y].Owner = r;
+    Hex[x][y].ProdSHQ = world::AddShq(r, x, y, 1, "SHQ");
+  }
+  auto lines = SplitLines(SerializeScenario());
+  auto set = [&lines](const std::string& name, const std::string& value) {
+    const auto at = LinesOf(name);
+    ASSERT_FALSE(at.empty()) << name;
+    lines[at[0]] = value;
+  };
+  lines[0] = " 110 ";  // an older file: engine variable 538 is doubled on load
+  set("Dip[1,2].Cost", "-5 ");
+  set("Dip[2,1].Cost", "-5 ");
+  set("EngineVar[538]", " 2147483647 ");
+  set("Regime[1].PP", "-2147483648 ");
+  set("Regime[2].PP", " 2147483647 ");
+  const std::string path = TempPath("damaged.mf1");
+  WriteBytes(path, Flipped(JoinLines(lines)));
+  ASSERT_TRUE(doGoLoad(path));
+  EXPECT_EQ(Dip[1][2].Cost, 999);
+  EXPECT_EQ(EngineVar[538].Value, 2147483647);
+  EXPECT_EQ(Regime[1].PP, -2147483647 - 1);
+  for (int r = 1; r <= Game.RegimeCount; ++r) Regime[r].AI = 0;
+  UI.EditMode = 0;
+  UI.HideEditor = true;
+  NextTurn();
+  ASSERT_EQ(Game.Turn, 1);
+  for (int k = 0; k < 2 * Game.RegimeCount; ++k) pubendturn();
+  EXPECT_EQ(Game.Turn, 3);
+  EXPECT_GT(Regime[1].PP, -2147483647 - 1);  // its town's points were added
+  EXPECT_EQ(Regime[2].PP, 2147483647);       // its town's points stop at the end
+  EXPECT_EQ(Dip[1][2].Cost, 999);
 }
 
 TEST_F(ScenarioFlow, ReadFileOfNoPathOrAMissingFile) {
