@@ -248,9 +248,10 @@ TEST_F(HelpTest, TheUnitTypeInfoButtonIsOfferedNowThatTheInfoWindowExists) {
   QTimer::singleShot(0, window.get(), [&] {
     for (QWidget* w : QApplication::topLevelWidgets()) {
       if (!w->isVisible()) continue;
-      if (auto* info = w->findChild<QPushButton*>("info")) {
+      auto* info = w->findChild<QPushButton*>("info");
+      if (info && w->findChild<QPushButton*>("changeProd")) {
         ran = true;
-        EXPECT_TRUE(info->isVisible());
+        EXPECT_FALSE(info->isHidden());
         if (auto* close = w->findChild<QPushButton*>("close")) close->click();
       }
     }
