@@ -139,7 +139,7 @@ TEST_F(EditorDialogsTest, TheGeneralWindowMarksChangedVariablesAndFilters) {
     auto* list = d->findChild<QListWidget*>("engineVars");
     d->findChild<QLineEdit*>("filter")->setText("combat rounds");
     ASSERT_EQ(list->count(), 2);
-    EXPECT_EQ(list->item(0)->text(), "-------------------12-------------------");
+    EXPECT_EQ(list->item(0)->text(), "------------------- 12-------------------");
     EXPECT_EQ(list->item(1)->text(), "* 5     Number of combat rounds  (default 3)");
     d->findChild<QLineEdit*>("filter")->setText("");
     KeepPicture(d, "general.png");
