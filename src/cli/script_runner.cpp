@@ -579,10 +579,6 @@ bool RunLine(Run& run, const std::string& line, std::string* why) {
       *why = "usage: " + std::string(c.usage);
       return false;
     }
-    if (!c.run) {
-      *why = "not available yet: " + cmd;
-      return false;
-    }
     run.platform.lastError.clear();
     if (!c.run(run, args, why)) return false;
     if (!run.platform.lastError.empty()) {
