@@ -7,20 +7,17 @@
 
 #include "engine/event_dialog.h"
 #include "model/arith.h"
+#include "model/bounds.h"
 #include "model/counter_pic.h"
 #include "model/game_state.h"
 #include "model/hex_geometry.h"
 #include "model/rnd.h"
 #include "orders/new_units.h"
 #include "platform/platform.h"
+#include "platform/text_case.h"
 
 namespace mf {
 namespace {
-
-int Held(long count, int cap) {
-  if (count < 0) return 0;
-  return count > cap ? cap : static_cast<int>(count);
-}
 
 // A regime named by event data: one of the scenario's regimes, else 0.
 int RegimeOf(long r) {
@@ -35,11 +32,6 @@ void RaiseBookVar(long b, long by) {
 }
 
 
-std::string Lower(std::string s) {
-  for (char& c : s)
-    if (c >= 'A' && c <= 'Z') c = static_cast<char>(c - 'A' + 'a');
-  return s;
-}
 
 // ---- Conditions -------------------------------------------------------------
 

@@ -1,6 +1,7 @@
 #include "model/reset.h"
 
 #include "model/arith.h"
+#include "model/bounds.h"
 #include "model/engine_vars.h"
 #include "model/game_state.h"
 #include "model/hex_geometry.h"
@@ -15,13 +16,6 @@ int MapSizeFromText(const std::string& text) {
   if (n < kMapMin) return kMapMin;
   if (n > kMapCap) return kMapCap;
   return static_cast<int>(n);
-}
-
-// A count of the tables held to what the table can hold, for loops over it.
-int Held(long count, int cap) {
-  if (count < 0) return 0;
-  if (count > cap) return cap;
-  return static_cast<int>(count);
 }
 
 }  // namespace
