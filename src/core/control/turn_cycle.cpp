@@ -124,7 +124,7 @@ void PlaceNewsMarks() {
 // computer player remembered of them; every formation of every regime waits
 // for the supply pass to give it a new percentage.
 void SweepUnits() {
-  const int last = Held(Game.UnitCount, kUnitCap);
+  const int last = LastUnit();
   for (int u = 1; u <= last; ++u) {
     UnitRec& unit = Unit[u];
     unit.FromX = 0;

@@ -21,7 +21,7 @@ namespace {
 
 // A regime named by event data: one of the scenario's regimes, else 0.
 int RegimeOf(long r) {
-  const int last = Held(Game.RegimeCount, kRegimeCap);
+  const int last = LastRegime();
   return r >= 1 && r <= last ? static_cast<int>(r) : 0;
 }
 
@@ -191,8 +191,8 @@ bool PlaceOfNewFormation(const EventRec& ev, int r, int* px, int* py) {
 int NearestThq(int r, int px, int py) {
   int best = 0;
   long bestScore = std::numeric_limits<long>::min();
-  const int w = Held(Game.MapW, kMapCap);
-  const int h = Held(Game.MapH, kMapCap);
+  const int w = MapW();
+  const int h = MapH();
   for (int x = 1; x <= w; ++x) {
     for (int y = 1; y <= h; ++y) {
       for (int s = 1; s <= kStackSlots; ++s) {

@@ -88,8 +88,8 @@ void MakeItSo(bool resetRules, const std::string& widthText, const std::string& 
   Game.BookVarCount = kBookVarCount;
 
   // 4. The hexes of the map as it was; hexes beyond it keep what they hold.
-  const int oldW = Held(Game.MapW, kMapCap);
-  const int oldH = Held(Game.MapH, kMapCap);
+  const int oldW = MapW();
+  const int oldH = MapH();
   for (int x = 1; x <= oldW; ++x) {
     for (int y = 1; y <= oldH; ++y) {
       Hex[x][y] = HexRec{};
