@@ -6,6 +6,7 @@
 
 #include "combat/attack.h"
 #include "model/bounds.h"
+#include "model/type_lookup.h"
 #include "orders/movement.h"
 #include "platform/platform.h"
 
@@ -48,7 +49,7 @@ bool AIIsHq(int u) { return ValidUnit(u) && (Unit[u].Thq > 0 || Unit[u].Shq > 0)
 bool AILongRange(int u) {
   if (!ValidUnit(u) || Unit[u].Theater != kLandTheater) return false;
   const long t = Unit[u].ArtType;
-  return ValidType(static_cast<int>(t)) && Type[t].Attr[kArtilleryRange] > 1;
+  return AttrOf(t, kArtilleryRange) > 1;
 }
 
 void AIFloodFrom(int x, int y, int slot) {

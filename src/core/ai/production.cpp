@@ -11,13 +11,12 @@
 #include "model/bounds.h"
 #include "model/hex_geometry.h"
 #include "model/rnd.h"
+#include "model/type_lookup.h"
 #include "orders/move_allowance.h"
 #include "orders/transport.h"
 
 namespace mf {
 namespace {
-
-Long AttrOf(Long type, int attr) { return ValidType(type) ? Type[type].Attr[attr] : 0; }
 
 // The cells of the wants and shares.
 float& Want(int theater, int cls) { return AI.TypeWant[theater][cls]; }
@@ -30,7 +29,7 @@ void ClearWants() {
 }
 
 // What the transports of a ship can lift of land troops.
-Long SeaLift(int ship) { return AttrOf(Unit[ship].MobType, kCarryCap) * Unit[ship].MobQty; }
+Long SeaLift(int ship) { return Clamp32(AttrOf(Unit[ship].MobType, kCarryCap) * Unit[ship].MobQty); }
 
 // Calls f(x, y, unit) for every unit of Game.CurRegime in the stacks, in scan order.
 template <class F>

@@ -11,6 +11,7 @@
 #include "model/arith.h"
 #include "model/bounds.h"
 #include "model/hex_geometry.h"
+#include "model/type_lookup.h"
 #include "orders/move_allowance.h"
 #include "orders/new_units.h"
 #include "orders/transfer.h"
@@ -22,7 +23,6 @@ constexpr Long kOutOfReach = 999;
 
 bool ValidArea(Long a) { return a >= 1 && a <= kAreaCap; }
 bool ValidFront(Long f) { return f >= 1 && f <= AI.FrontCount && f <= kFrontCap; }
-Long AttrOf(Long type, int attr) { return ValidType(type) ? Type[type].Attr[attr] : 0; }
 
 struct Place {
   int x = 0, y = 0, slot = 0;
@@ -211,7 +211,7 @@ void AIStockMob() {
     for (int k = 1; k <= StockWidth(); ++k) {
       const Long t = pool.StockType[k];
       if (ValidType(t) && Type[t].Theater == kLandTheater && (Type[t].Class == 1 || Type[t].Class == 3))
-        ownLoad += AttrOf(t, kWeight) * pool.StockQty[k];
+        ownLoad = AddSat(ownLoad, AttrOf(t, kWeight) * pool.StockQty[k]);
     }
     const std::vector<Place> at = Positions();
     const int entries = std::min<int>(AI.ListCount, kListCap);

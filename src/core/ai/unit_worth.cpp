@@ -4,11 +4,10 @@
 
 #include "combat/command_figures.h"
 #include "model/arith.h"
+#include "model/type_lookup.h"
 
 namespace mf {
 namespace {
-
-double AttrOf(Long type, int attr) { return ValidType(static_cast<int>(type)) ? Type[type].Attr[attr] : 0.0; }
 
 // The unit divider. A scenario that sets it to 0 (or below) does not divide.
 double UnitDivider() { return EV(301) >= 1 ? static_cast<double>(EV(301)) : 1.0; }
@@ -42,11 +41,11 @@ Long AIUnitWorth(int x, int y, int unit, int kind) {
   if (u.Regime == 0) return 0;
   double a = 0, d = 0;
   if (u.Theater == kLandTheater) {
-    a = (AttrOf(u.InfType, kSoftAttack) + AttrOf(u.InfType, kHardAttack)) * u.InfQty +
-        (AttrOf(u.ArmType, kSoftAttack) + AttrOf(u.ArmType, kHardAttack)) * u.ArmQty;
-    d = (AttrOf(u.InfType, kSoftDefense) + AttrOf(u.InfType, kHardDefense)) * u.InfQty +
-        (AttrOf(u.ArmType, kSoftDefense) + AttrOf(u.ArmType, kHardDefense)) * u.ArmQty;
-    double r = (AttrOf(u.ArtType, kAntiAirCap) + AttrOf(u.ArtType, kArtilleryAttack)) * u.ArtQty;
+    a = static_cast<double>(AttrOf(u.InfType, kSoftAttack) + AttrOf(u.InfType, kHardAttack)) * u.InfQty +
+        static_cast<double>(AttrOf(u.ArmType, kSoftAttack) + AttrOf(u.ArmType, kHardAttack)) * u.ArmQty;
+    d = static_cast<double>(AttrOf(u.InfType, kSoftDefense) + AttrOf(u.InfType, kHardDefense)) * u.InfQty +
+        static_cast<double>(AttrOf(u.ArmType, kSoftDefense) + AttrOf(u.ArmType, kHardDefense)) * u.ArmQty;
+    double r = static_cast<double>(AttrOf(u.ArtType, kAntiAirCap) + AttrOf(u.ArtType, kArtilleryAttack)) * u.ArtQty;
     const double command = Leadership(unit);
     const double disruption = DisruptionFactor(unit);
     for (double* v : {&a, &d, &r}) {
@@ -63,13 +62,15 @@ Long AIUnitWorth(int x, int y, int unit, int kind) {
       d += r;
   } else {
     if (u.Theater == kSeaTheater) {
-      a = AttrOf(u.InfType, kArtilleryAttack) * u.InfQty + AttrOf(u.ArmType, kSubskills) * u.ArmQty;
+      a = static_cast<double>(AttrOf(u.InfType, kArtilleryAttack)) * u.InfQty +
+          static_cast<double>(AttrOf(u.ArmType, kSubskills)) * u.ArmQty;
       d = LastOfThreePlusArm(u, kHitPoints);
       // A ship in port is no defence.
       if (ValidHex(x, y) && Hex[x][y].Land == kUrban) d = 0;
     } else {
-      a = AttrOf(u.InfType, kDogfight) * u.InfQty + AttrOf(u.MobType, kDogfight) * u.MobQty +
-          AttrOf(u.ArtType, kDogfight) * u.ArtQty;
+      a = static_cast<double>(AttrOf(u.InfType, kDogfight)) * u.InfQty +
+          static_cast<double>(AttrOf(u.MobType, kDogfight)) * u.MobQty +
+          static_cast<double>(AttrOf(u.ArtType, kDogfight)) * u.ArtQty;
       d = LastOfThreePlusArm(u, kStrategicBombing);
     }
     for (double* v : {&a, &d}) {

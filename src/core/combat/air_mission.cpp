@@ -8,6 +8,7 @@
 #include "model/game_state.h"
 #include "model/hex_geometry.h"
 #include "model/rnd.h"
+#include "model/type_lookup.h"
 #include "orders/new_units.h"
 #include "orders/transport.h"
 
@@ -51,13 +52,9 @@ struct Flight {
   double dogfight = 0;
 };
 
-double Attr(long type, int attr) {
-  return ValidType(static_cast<int>(type)) ? static_cast<double>(Type[type].Attr[attr]) : 0.0;
-}
-
 // A type without hit points is hit as one of a single point.
 double HitPoints(long type) {
-  const double h = Attr(type, kHitPoints);
+  const double h = AttrOf(type, kHitPoints);
   return h > 0 ? h : 1.0;
 }
 
@@ -95,8 +92,8 @@ void Intercept(Flight& f, int interceptor, int carrier, int x, int y) {
   addtolist("Attack intercepted by " + i.Name, f.delay);
   for (int round = 1; round <= kInterceptRounds; ++round) {
     // 1. Both sides' dogfight power.
-    const double ip = Worn(Attr(i.InfType, kDogfight) * i.InfQty, i);
-    if (m.InfType > 0) f.dogfight = Attr(m.InfType, kDogfight) * m.InfQty;
+    const double ip = Worn(AttrOf(i.InfType, kDogfight) * i.InfQty, i);
+    if (m.InfType > 0) f.dogfight = AttrOf(m.InfType, kDogfight) * m.InfQty;
     f.dogfight = Worn(f.dogfight, m);
 
     // 2. The classes of the flight the interceptor can get at: escorts and
@@ -212,7 +209,7 @@ void AntiAircraft(Flight& f) {
 void StrategicBombing(Flight& f) {
   UnitRec& m = Unit[f.unit];
   HexRec& h = Hex[f.tx][f.ty];
-  double power = Worn(Attr(m.ArtType, kStrategicBombing) * m.ArtQty, m);
+  double power = Worn(AttrOf(m.ArtType, kStrategicBombing) * m.ArtQty, m);
   // A town can lose at most half of itself to one raid.
   const double most = static_cast<double>(Int(h.Pop * 0.5));
   if (power > most) power = most;
@@ -262,7 +259,7 @@ void StrikeLand(const Flight& f, double s, double h) {
   if (u.MobQty > 0)
     Lose(t, f.unit, kLossInterdiction, 2, Int((s * (3.0 / w)) / HitPoints(u.MobType)), who, " trucks.", f.delay);
   if (u.ArtQty > 0) {
-    double divider = Attr(u.ArtType, kHitPoints) + Attr(u.ArtType, kAntiAirCap);
+    double divider = AttrOf(u.ArtType, kHitPoints) + AttrOf(u.ArtType, kAntiAirCap);
     if (divider <= 0) divider = 1;
     Lose(t, f.unit, kLossInterdiction, 3, Int((s * (3.0 / w)) / divider), who, " artillery.", f.delay);
   }
@@ -289,7 +286,7 @@ void StrikeSea(const Flight& f, double s) {
     if (u.ArmType > 0) {
       long long n = CasualtyCount(s, c, HitPoints(u.ArmType));
       const double divider = EV(503) != 0 ? static_cast<double>(EV(503)) : 1.0;
-      if (static_cast<double>(Rnd()) * 100 < Attr(u.ArmType, kSubskills) / divider) {
+      if (static_cast<double>(Rnd()) * 100 < AttrOf(u.ArmType, kSubskills) / divider) {
         addtolist("Defending subs dive quick enough...", f.delay);
         n = 0;
       }
@@ -329,10 +326,13 @@ void Interdiction(Flight& f) {
   // 2. Soft and hard strike power.
   double s = 0, h = 0;
   if (t.Theater == kSeaTheater) {
-    s = Attr(m.InfType, kNavalInterdict) * m.InfQty + Attr(m.ArtType, kNavalInterdict) * m.ArtQty;
+    s = static_cast<double>(AttrOf(m.InfType, kNavalInterdict)) * m.InfQty +
+        static_cast<double>(AttrOf(m.ArtType, kNavalInterdict)) * m.ArtQty;
   } else {
-    s = Attr(m.InfType, kSoftAttack) * m.InfQty + Attr(m.ArtType, kSoftAttack) * m.ArtQty;
-    h = Attr(m.InfType, kHardAttack) * m.InfQty + Attr(m.ArtType, kHardAttack) * m.ArtQty;
+    s = static_cast<double>(AttrOf(m.InfType, kSoftAttack)) * m.InfQty +
+        static_cast<double>(AttrOf(m.ArtType, kSoftAttack)) * m.ArtQty;
+    h = static_cast<double>(AttrOf(m.InfType, kHardAttack)) * m.InfQty +
+        static_cast<double>(AttrOf(m.ArtType, kHardAttack)) * m.ArtQty;
   }
   s = Worn(s, m);
   h = Worn(h, m);
@@ -433,7 +433,7 @@ long long AntiAirPoints(int tx, int ty, long side, long owner) {
         const long r = Unit[u].Regime;
         if (r == 0 || r == Game.CurRegime || (r != side && r != owner)) continue;
         for (int cls = 1; cls <= 4; ++cls)
-          points += static_cast<long long>(Attr(UnitSlotType(static_cast<int>(u), cls), kAntiAirCap)) *
+          points += static_cast<long long>(AttrOf(UnitSlotType(static_cast<int>(u), cls), kAntiAirCap)) *
                     UnitSlotQty(static_cast<int>(u), cls);
       }
     }

@@ -8,6 +8,7 @@
 #include "model/game_state.h"
 #include "model/hex_geometry.h"
 #include "model/rnd.h"
+#include "model/type_lookup.h"
 
 namespace mf {
 
@@ -111,8 +112,7 @@ bool artyok2(int slot) {
   const int d = Distance(static_cast<int>(UI.SelX), static_cast<int>(UI.SelY), static_cast<int>(UI.OrdX),
                          static_cast<int>(UI.OrdY));
   if (unit.Theater == kSeaTheater) {
-    const long range = ValidType(static_cast<int>(unit.InfType)) ? Type[unit.InfType].Attr[kArtilleryRange] : 0;
-    return range >= d;
+    return AttrOf(unit.InfType, kArtilleryRange) >= d;
   }
   if (!ValidType(static_cast<int>(unit.ArtType)) || unit.ArtQty <= 0) return false;
   return Type[unit.ArtType].Attr[kArtilleryRange] >= d;

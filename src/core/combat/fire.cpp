@@ -4,17 +4,14 @@
 #include "combat/losses.h"
 #include "model/arith.h"
 #include "model/rnd.h"
+#include "model/type_lookup.h"
 
 namespace mf {
 namespace {
 
-double Attr(long type, int attr) {
-  return ValidType(static_cast<int>(type)) ? static_cast<double>(Type[type].Attr[attr]) : 0.0;
-}
-
 // A type without hit points is hit as one of a single point.
 double HitPoints(long type) {
-  const double h = Attr(type, kHitPoints);
+  const double h = AttrOf(type, kHitPoints);
   return h > 0 ? h : 1.0;
 }
 
@@ -34,7 +31,7 @@ void LineOfFire(int victim, int opponent, int cls, double p, double front, long 
   const long type = UnitSlotType(victim, cls);
   if (type <= 0) return;
   long long n = CasualtyCount(p, 1, HitPoints(type));
-  const double size = Attr(type, kFrontsize);
+  const double size = AttrOf(type, kFrontsize);
   if (size > 0) {
     const long long cap = Int(front / size);
     if (n > cap) {
@@ -121,7 +118,7 @@ void Broadside(int victim, int opponent, double p, const std::string& who, const
   if (v.ArtType > 0) Lose(victim, opponent, kLossSeaBattle, 3, CasualtyCount(p, c, HitPoints(v.ArtType)), who, " carriers.");
   if (v.ArmType > 0) {
     long long n = CasualtyCount(p, c, HitPoints(v.ArmType));
-    if (Int(static_cast<double>(Rnd()) * 100) < Attr(v.ArmType, kSubskills)) {
+    if (Int(static_cast<double>(Rnd()) * 100) < AttrOf(v.ArmType, kSubskills)) {
       addtolist(evade, TheBattle.delay);
       n = 0;
     }

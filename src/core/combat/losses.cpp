@@ -5,6 +5,8 @@
 #include "engine/news.h"
 #include "model/arith.h"
 #include "model/rnd.h"
+#include "model/type_lookup.h"
+#include "orders/transport.h"
 
 namespace mf {
 
@@ -20,7 +22,6 @@ void ZeroBattleTallies() {
 
 namespace {
 
-long long AttrOf(long type, int attr) { return ValidType(static_cast<int>(type)) ? Type[type].Attr[attr] : 0; }
 long long TypeCost(long type) { return ValidType(static_cast<int>(type)) ? Type[type].Cost : 0; }
 
 // What a formation is worth in production points: cost times quantity of
@@ -251,12 +252,7 @@ void CheckCargo(int carrier) {
   else if (c.Theater == kAirTheater)
     capacity = static_cast<double>(AttrOf(Unit[carrier].ArtType, kCarryCap)) * Unit[carrier].ArtQty;
 
-  auto weight = [cargo] {
-    double w = 0;
-    for (int cls = 1; cls <= 4; ++cls)
-      w += static_cast<double>(AttrOf(UnitSlotType(cargo, cls), kWeight)) * UnitSlotQty(cargo, cls);
-    return w;
-  };
+  auto weight = [cargo] { return static_cast<double>(UnitLoadWeight(cargo)); };
 
   // What the ships can no longer carry goes overboard, a tenth at a time.
   long long lost[5] = {};

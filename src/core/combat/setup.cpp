@@ -10,6 +10,7 @@
 #include "model/arith.h"
 #include "model/hex_geometry.h"
 #include "model/rnd.h"
+#include "model/type_lookup.h"
 #include "orders/movement.h"
 #include "platform/platform.h"
 
@@ -22,10 +23,6 @@ namespace {
 constexpr int kSoundAttackInfantry = 21;
 constexpr int kSoundAttackArtillery = 22;
 constexpr int kSoundAttackShip = 25;
-
-double Attr(long type, int attr) {
-  return ValidType(static_cast<int>(type)) ? static_cast<double>(Type[type].Attr[attr]) : 0.0;
-}
 
 bool OnMap(HexXY h) { return ValidHex(h.x, h.y); }
 
@@ -67,7 +64,7 @@ int HighestCount(const CommandGroup g[4]) {
 
 bool IsHq(int u) { return Unit[u].Thq > 0 || Unit[u].Shq > 0; }
 
-double Range(long artType) { return Attr(artType, kArtilleryRange); }
+double Range(long artType) { return AttrOf(artType, kArtilleryRange); }
 
 // The share of a class that fights on the front it was given.
 double Scale(double frontage, double product) { return frontage < product ? frontage / product : 1.0; }
@@ -268,9 +265,9 @@ void AttackerFrontage(const UnitRec& a) {
   BattleState& b = TheBattle;
   const double third = static_cast<double>(b.frontLimit) / 3.0;
   double remaining = static_cast<double>(b.frontLimit);
-  const double inf = Attr(a.InfType, kFrontsize) * a.InfQty;
-  const double art = Attr(a.ArtType, kFrontsize) * a.ArtQty;
-  const double arm = Attr(a.ArmType, kFrontsize) * a.ArmQty;
+  const double inf = AttrOf(a.InfType, kFrontsize) * a.InfQty;
+  const double art = AttrOf(a.ArtType, kFrontsize) * a.ArtQty;
+  const double arm = AttrOf(a.ArmType, kFrontsize) * a.ArmQty;
   const bool gunsInLine = Range(a.ArtType) < 2;
   if (a.InfQty > 0) {
     b.attInfFront = inf < third ? inf : third;
@@ -299,9 +296,9 @@ void DefenderFrontage(const UnitRec& t) {
   BattleState& b = TheBattle;
   const double third = static_cast<double>(b.frontLimit) / 3.0;
   double remaining = static_cast<double>(b.frontLimit);
-  const double inf = Attr(t.InfType, kFrontsize) * t.InfQty;
-  const double art = Attr(t.ArtType, kFrontsize) * t.ArtQty;
-  const double arm = Attr(t.ArmType, kFrontsize) * t.ArmQty;
+  const double inf = AttrOf(t.InfType, kFrontsize) * t.InfQty;
+  const double art = AttrOf(t.ArtType, kFrontsize) * t.ArtQty;
+  const double arm = AttrOf(t.ArmType, kFrontsize) * t.ArmQty;
   const bool gunsInLine = Range(t.ArtType) < 2;
   if (t.InfQty > 0) {
     b.defInfFront = inf < third ? inf : third;
@@ -355,11 +352,11 @@ void LandAttackFigures(Engagement& e) {
     const long type = UnitSlotType(u, classes[k]);
     if (type <= 0) continue;
     const double qty = UnitSlotQty(u, classes[k]);
-    const double scale = Scale(fronts[k], Attr(type, kFrontsize) * qty);
-    e.softAttack += static_cast<double>(Int(Attr(type, kSoftAttack) * qty * scale));
-    e.hardAttack += static_cast<double>(Int(Attr(type, kHardAttack) * qty * scale));
-    e.fullSoftAttack += Attr(type, kSoftAttack) * qty;
-    e.fullHardAttack += Attr(type, kHardAttack) * qty;
+    const double scale = Scale(fronts[k], AttrOf(type, kFrontsize) * qty);
+    e.softAttack += static_cast<double>(Int(AttrOf(type, kSoftAttack) * qty * scale));
+    e.hardAttack += static_cast<double>(Int(AttrOf(type, kHardAttack) * qty * scale));
+    e.fullSoftAttack += AttrOf(type, kSoftAttack) * qty;
+    e.fullHardAttack += AttrOf(type, kHardAttack) * qty;
   }
 }
 
@@ -373,26 +370,27 @@ void LandDefenceFigures(Engagement& e) {
     const long type = UnitSlotType(u, classes[k]);
     if (type <= 0) continue;
     const double qty = UnitSlotQty(u, classes[k]);
-    const double scale = Scale(fronts[k], Attr(type, kFrontsize) * qty);
-    e.softDefence += static_cast<double>(Int(Attr(type, kSoftDefense) * qty * scale));
-    e.hardDefence += static_cast<double>(Int(Attr(type, kHardDefense) * qty * scale));
-    e.fullSoftDefence += Attr(type, kSoftDefense) * qty;
-    e.fullHardDefence += Attr(type, kHardDefense) * qty;
+    const double scale = Scale(fronts[k], AttrOf(type, kFrontsize) * qty);
+    e.softDefence += static_cast<double>(Int(AttrOf(type, kSoftDefense) * qty * scale));
+    e.hardDefence += static_cast<double>(Int(AttrOf(type, kHardDefense) * qty * scale));
+    e.fullSoftDefence += AttrOf(type, kSoftDefense) * qty;
+    e.fullHardDefence += AttrOf(type, kHardDefense) * qty;
   }
 }
 
 // Guns of all classes but the cargo: the fire of a sea battle.
 double ShipGuns(const UnitRec& u) {
-  return Attr(u.InfType, kArtilleryAttack) * u.InfQty + Attr(u.ArtType, kArtilleryAttack) * u.ArtQty +
-         Attr(u.ArmType, kArtilleryAttack) * u.ArmQty;
+  return static_cast<double>(AttrOf(u.InfType, kArtilleryAttack)) * u.InfQty +
+         static_cast<double>(AttrOf(u.ArtType, kArtilleryAttack)) * u.ArtQty +
+         static_cast<double>(AttrOf(u.ArmType, kArtilleryAttack)) * u.ArmQty;
 }
 
 // Infantry that rides into battle in the armour's carriers is spared the
 // infantry's losses.
 long long Riders(const UnitRec& u, double armourFront) {
-  const double product = Attr(u.ArmType, kFrontsize) * u.ArmQty;
-  const double capacity = Attr(u.ArmType, kCarryCap) * u.ArmQty * Scale(armourFront, product);
-  const double weight = Attr(u.InfType, kWeight);
+  const double product = AttrOf(u.ArmType, kFrontsize) * u.ArmQty;
+  const double capacity = AttrOf(u.ArmType, kCarryCap) * u.ArmQty * Scale(armourFront, product);
+  const double weight = AttrOf(u.InfType, kWeight);
   if (weight <= 0 || capacity <= 0) return 0;
   long long riders = Int(capacity / weight);
   if (riders > u.InfQty) riders = u.InfQty;
@@ -417,10 +415,10 @@ void WorkFigures(Engagement& e) {
   } else if (e.kind >= kKindArtilleryLand && e.kind <= kKindArtilleryAir) {
     if (a.Theater == kLandTheater) {
       BattleSound(kSoundAttackArtillery);
-      if (a.ArtType > 0) e.softAttack = Attr(a.ArtType, kArtilleryAttack) * a.ArtQty;
+      if (a.ArtType > 0) e.softAttack = AttrOf(a.ArtType, kArtilleryAttack) * a.ArtQty;
     } else if (a.Theater == kSeaTheater && a.InfType > 0) {
       BattleSound(kSoundAttackShip);
-      e.softAttack = Attr(a.InfType, kArtilleryAttack) * a.InfQty;
+      e.softAttack = AttrOf(a.InfType, kArtilleryAttack) * a.InfQty;
       // Ships in a town's harbour fire poorly. The hex looked at is the one
       // selected at the moment, as it always was.
       if (ValidHex(static_cast<int>(UI.SelX), static_cast<int>(UI.SelY)) && Hex[UI.SelX][UI.SelY].Land == kUrban)
@@ -439,7 +437,7 @@ void WorkFigures(Engagement& e) {
     if (t.Theater == kLandTheater) {
       LandDefenceFigures(e);
     } else if (t.Theater == kSeaTheater && t.InfType > 0) {
-      e.softDefence = Attr(t.InfType, kArtilleryAttack) * t.InfQty;
+      e.softDefence = AttrOf(t.InfType, kArtilleryAttack) * t.InfQty;
       e.fullSoftDefence = e.softDefence;
     }
   } else if (e.kind == kKindSeaBattle) {
@@ -599,24 +597,24 @@ double CurrentAttackStrength(const Engagement& e) {
   if (e.kind >= kKindLandVsLand && e.kind <= kKindLandVsAir) {
     double soft = e.softAttack, hard = e.hardAttack;
     if (a.InfType > 0) {
-      soft = Attr(a.InfType, kSoftAttack) * a.InfQty;
-      hard = Attr(a.InfType, kHardAttack) * a.InfQty;
+      soft = AttrOf(a.InfType, kSoftAttack) * a.InfQty;
+      hard = AttrOf(a.InfType, kHardAttack) * a.InfQty;
     }
     if (a.ArtType > 0) {
-      soft += Attr(a.ArtType, kSoftAttack) * a.ArtQty;
-      hard += Attr(a.ArtType, kHardAttack) * a.ArtQty;
+      soft += AttrOf(a.ArtType, kSoftAttack) * a.ArtQty;
+      hard += AttrOf(a.ArtType, kHardAttack) * a.ArtQty;
     }
     if (a.ArmType > 0) {
-      soft += Attr(a.ArmType, kSoftAttack) * a.ArmQty;
-      hard += Attr(a.ArmType, kHardAttack) * a.ArmQty;
+      soft += AttrOf(a.ArmType, kSoftAttack) * a.ArmQty;
+      hard += AttrOf(a.ArmType, kHardAttack) * a.ArmQty;
     }
     return soft + hard;
   }
   if (e.kind >= kKindArtilleryLand && e.kind <= kKindArtilleryAir) {
     double soft = e.softAttack;
-    if (a.Theater == kLandTheater && a.ArtType > 0) soft = Attr(a.ArtType, kArtilleryAttack) * a.ArtQty;
+    if (a.Theater == kLandTheater && a.ArtType > 0) soft = AttrOf(a.ArtType, kArtilleryAttack) * a.ArtQty;
     if (a.Theater == kSeaTheater && a.InfType > 0) {
-      soft = Attr(a.InfType, kArtilleryAttack) * a.InfQty;
+      soft = AttrOf(a.InfType, kArtilleryAttack) * a.InfQty;
       if (ValidHex(static_cast<int>(UI.SelX), static_cast<int>(UI.SelY)) && Hex[UI.SelX][UI.SelY].Land == kUrban)
         soft *= 0.33;
     }
@@ -632,20 +630,20 @@ double CurrentDefenceStrength(const Engagement& e) {
     if (t.Theater == kLandTheater) {
       double soft = e.softDefence, hard = e.hardDefence;
       if (t.InfType > 0) {
-        soft = Attr(t.InfType, kSoftDefense) * t.InfQty;
-        hard = Attr(t.InfType, kHardDefense) * t.InfQty;
+        soft = AttrOf(t.InfType, kSoftDefense) * t.InfQty;
+        hard = AttrOf(t.InfType, kHardDefense) * t.InfQty;
       }
       if (t.ArmType > 0) {
-        soft += Attr(t.ArmType, kSoftDefense) * t.ArmQty;
-        hard += Attr(t.ArmType, kHardDefense) * t.ArmQty;
+        soft += AttrOf(t.ArmType, kSoftDefense) * t.ArmQty;
+        hard += AttrOf(t.ArmType, kHardDefense) * t.ArmQty;
       }
       if (t.ArtType > 0) {
-        soft += Attr(t.ArtType, kSoftDefense) * t.ArtQty;
-        hard += Attr(t.ArtType, kHardDefense) * t.ArtQty;
+        soft += AttrOf(t.ArtType, kSoftDefense) * t.ArtQty;
+        hard += AttrOf(t.ArtType, kHardDefense) * t.ArtQty;
       }
       return soft + hard;
     }
-    if (t.Theater == kSeaTheater) return t.InfType > 0 ? Attr(t.InfType, kArtilleryAttack) * t.InfQty : 0;
+    if (t.Theater == kSeaTheater) return t.InfType > 0 ? AttrOf(t.InfType, kArtilleryAttack) * t.InfQty : 0;
     return 0;
   }
   if (e.kind == kKindSeaBattle) return ShipGuns(t);

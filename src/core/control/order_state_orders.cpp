@@ -15,6 +15,7 @@
 #include "model/game_state.h"
 #include "model/hex_geometry.h"
 #include "model/stack.h"
+#include "model/type_lookup.h"
 #include "orders/command.h"
 #include "orders/entrench.h"
 #include "orders/flood.h"
@@ -65,7 +66,6 @@ constexpr int kSoundMoveArmour = 12; // "mov_arm.wav"
 constexpr int kSoundRebase = 14;     // "att_bomb.wav"
 constexpr int kSoundMoveShip = 15;   // "mov_ship.wav"
 
-long AttrOf(long type, int attr) { return ValidType(static_cast<int>(type)) ? Type[type].Attr[attr] : 0; }
 
 
 // No formation is joined to the attack.
@@ -190,12 +190,6 @@ void StartAirStrike(bool strategic) {
   Helper();
 }
 
-// Total weight of a formation's troops.
-long LoadWeight(int u) {
-  long w = 0;
-  for (int cls = 1; cls <= 4; ++cls) w += AttrOf(UnitSlotType(u, cls), kWeight) * UnitSlotQty(u, cls);
-  return w;
-}
 
 }  // namespace
 
@@ -323,7 +317,7 @@ void AirliftButton() {
   }
   // What the transport aircraft can carry decides; too heavy, and nothing happens.
   const long capacity = AttrOf(Unit[wing].MobType, kCarryCap) * Unit[wing].MobQty;
-  if (LoadWeight(lifted) > capacity) return;
+  if (UnitLoadWeight(lifted) > capacity) return;
   int drop = 0;
   for (int cls = 1; cls <= 4; ++cls)
     if (UnitSlotQty(lifted, cls) > 0 && AttrOf(UnitSlotType(lifted, cls), kParadropCap) == 0) drop = 1;

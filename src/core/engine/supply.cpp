@@ -9,6 +9,7 @@
 #include "model/bounds.h"
 #include "model/game_state.h"
 #include "model/hex_geometry.h"
+#include "model/type_lookup.h"
 #include "orders/flood.h"
 
 namespace mf {
@@ -22,8 +23,6 @@ std::int64_t FloorDiv(std::int64_t a, std::int64_t b) {
   if ((a % b != 0) && ((a < 0) != (b < 0))) --q;
   return q;
 }
-
-Long AttrOf(Long t, int attr) { return ValidType(t) ? Type[t].Attr[attr] : 0; }
 
 UnitRec& U(Long u) { return Unit[ValidUnit(u) ? u : 0]; }
 
@@ -42,7 +41,7 @@ Long Demand(int u) {
   std::int64_t need = 0;
   for (int cls = 1; cls <= 4; ++cls) {
     const Long qty = UnitSlotQty(u, cls);
-    if (qty > 0) need += static_cast<std::int64_t>(AttrOf(UnitSlotType(u, cls), kSupplyNeed)) * qty;
+    if (qty > 0) need = AddSat64(need, AttrOf(UnitSlotType(u, cls), kSupplyNeed) * qty);
   }
   std::int64_t p = 100 + static_cast<std::int64_t>(EV(221)) - Unit[u].Readiness;
   if (p < 10) p = 10;

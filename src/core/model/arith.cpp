@@ -60,6 +60,12 @@ std::int32_t AddSat(std::int32_t total, std::int64_t amount) {
   return Clamp32(static_cast<std::int64_t>(total) + amount);
 }
 
+std::int64_t AddSat64(std::int64_t total, std::int64_t amount) {
+  std::int64_t sum = 0;
+  if (!__builtin_add_overflow(total, amount, &sum)) return sum;
+  return amount > 0 ? INT64_MAX : INT64_MIN;
+}
+
 std::int64_t IDiv(std::int64_t a, std::int64_t b) {
   if (b == 0) return 0;
   return a / b;  // C++ truncates towards zero

@@ -22,6 +22,8 @@ std::int32_t Clamp32(std::int64_t v);
 // kills and losses, stock quantities): it stops at the ends of a long
 // instead of wrapping round.
 std::int32_t AddSat(std::int32_t total, std::int64_t amount);
+// The same for a 64-bit total (sums of attribute times quantity).
+std::int64_t AddSat64(std::int64_t total, std::int64_t amount);
 // Whole division truncating towards zero; a zero divisor gives 0 instead of a trap.
 std::int64_t IDiv(std::int64_t a, std::int64_t b);
 // Remainder with the sign of the dividend; a zero divisor gives 0.

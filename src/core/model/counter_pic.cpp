@@ -1,16 +1,11 @@
 #include "model/counter_pic.h"
 
 #include "model/game_state.h"
+#include "model/type_lookup.h"
 
 namespace mf {
 
 namespace {
-
-// A type number from a unit slot, made safe for indexing: anything outside
-// the table reads as type 0, which has no attributes.
-const TypeRec& TypeOf(Long t) { return ValidType(t) ? Type[t] : Type[0]; }
-
-Long Attr(Long t, int attr) { return TypeOf(t).Attr[attr]; }
 
 const RegimeRec& RegimeOf(Long r) { return ValidRegime(r) ? Regime[r] : Regime[0]; }
 
@@ -21,7 +16,8 @@ int TroopFamily(int u) {
   const UnitRec& un = Unit[u];
   const double mob = static_cast<double>(TypeOf(un.MobType).Cost) * un.MobQty;
   // Field guns that fire only at the front do not make an artillery counter.
-  const double art = Attr(un.ArtType, kArtilleryRange) > 1 ? static_cast<double>(TypeOf(un.ArtType).Cost) * un.ArtQty : 0.0;
+  const double art =
+      AttrOf(un.ArtType, kArtilleryRange) > 1 ? static_cast<double>(TypeOf(un.ArtType).Cost) * un.ArtQty : 0.0;
   const double arm = static_cast<double>(TypeOf(un.ArmType).Cost) * un.ArmQty;
   const double inf = static_cast<double>(TypeOf(un.InfType).Cost) * un.InfQty;
 
@@ -37,10 +33,10 @@ int TroopFamily(int u) {
 
   // More to carry than the trucks and tanks can take: the troops march.
   if (family == kFamilyInfantry) {
-    const double load = static_cast<double>(Attr(un.InfType, kWeight)) * un.InfQty +
-                        static_cast<double>(Attr(un.ArtType, kWeight)) * un.ArtQty;
-    const double carry = static_cast<double>(Attr(un.MobType, kCarryCap)) * un.MobQty +
-                         static_cast<double>(Attr(un.ArmType, kCarryCap)) * un.ArmQty;
+    const double load = static_cast<double>(AttrOf(un.InfType, kWeight)) * un.InfQty +
+                        static_cast<double>(AttrOf(un.ArtType, kWeight)) * un.ArtQty;
+    const double carry = static_cast<double>(AttrOf(un.MobType, kCarryCap)) * un.MobQty +
+                         static_cast<double>(AttrOf(un.ArmType, kCarryCap)) * un.ArmQty;
     if ((load + 1) / (carry + 1) > 1) family = kFamilyFoot;
   }
   return family;

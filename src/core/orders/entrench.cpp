@@ -5,6 +5,7 @@
 
 #include "model/arith.h"
 #include "model/game_state.h"
+#include "model/type_lookup.h"
 #include "orders/flood.h"
 #include "orders/order_buttons.h"
 #include "platform/platform.h"
@@ -45,9 +46,7 @@ void doEntrench(int direction) {
   if (shq == 0) return;
 
   const long cost = EV(111 + static_cast<int>(level));
-  const std::int64_t skill =
-      static_cast<std::int64_t>(ValidType(static_cast<int>(un.InfType)) ? Type[un.InfType].Attr[kEngineerSkill] : 0) *
-      un.InfQty;
+  const std::int64_t skill = AttrOf(un.InfType, kEngineerSkill) * un.InfQty;
   if (skill < cost || un.InfQty <= 0 || un.Theater != kLandTheater) {
     Say("Only units with infantry with enough engineer skill can build fortifications. You need " + NumText(cost) +
         " skill points, and you only have: " + NumText(skill));

@@ -4,11 +4,11 @@
 #include <cstdint>
 
 #include "model/game_state.h"
+#include "model/type_lookup.h"
 
 namespace mf {
 namespace {
 
-Long AttrOf(Long t, int attr) { return ValidType(t) ? Type[t].Attr[attr] : 0; }
 Long MoveCap(Long t) { return AttrOf(t, kMovementCap); }
 
 // The carrying percent of a land formation is at most this.
@@ -29,10 +29,9 @@ int UnitMaxMoveOf(int unit, bool keep) {
 
   if (f.Theater == kLandTheater) {
     // What must walk (infantry and the guns) against what can carry it.
-    const std::int64_t artLoad = static_cast<std::int64_t>(AttrOf(f.ArtType, kWeight)) * f.ArtQty;
-    const std::int64_t load = static_cast<std::int64_t>(AttrOf(f.InfType, kWeight)) * f.InfQty + artLoad;
-    const std::int64_t carry = static_cast<std::int64_t>(AttrOf(f.MobType, kCarryCap)) * f.MobQty +
-                               static_cast<std::int64_t>(AttrOf(f.ArmType, kCarryCap)) * f.ArmQty;
+    const std::int64_t artLoad = AttrOf(f.ArtType, kWeight) * f.ArtQty;
+    const std::int64_t load = AttrOf(f.InfType, kWeight) * f.InfQty + artLoad;
+    const std::int64_t carry = AttrOf(f.MobType, kCarryCap) * f.MobQty + AttrOf(f.ArmType, kCarryCap) * f.ArmQty;
     if (load <= carry) {
       // Everybody rides: the vehicles set the pace.
       allowance = 999;

@@ -6,6 +6,7 @@
 #include "model/bounds.h"
 #include "model/game_state.h"
 #include "model/hex_geometry.h"
+#include "model/type_lookup.h"
 #include "orders/flood.h"
 #include "orders/move_allowance.h"
 #include "orders/transport.h"
@@ -18,9 +19,6 @@ constexpr int kShownShore = 9999;  // next to a ship's reach: shown, never enter
 constexpr int kMaxWaves = kRouteSteps;  // 15: also the length of Hex.Route
 
 bool OnMap(HexXY n) { return n.x > 0 && n.y > 0; }
-
-// A type attribute, 0 for a type number that names no type.
-long Attr(long type, int attr) { return ValidType(static_cast<int>(type)) ? Type[type].Attr[attr] : 0; }
 
 bool HumanRegime() { return Regime[CurrentRegime()].AI <= 0; }
 // True when regime `other` is at peace with the current regime.
@@ -190,24 +188,24 @@ double UnitOccupyPower(int unit) {
   if (u.Theater == kSeaTheater) {
     for (int cls = 1; cls <= 4; ++cls) {
       const long qty = UnitSlotQty(unit, cls);
-      if (qty != 0) power += static_cast<double>(Attr(UnitSlotType(unit, cls), kHitPoints)) * qty;
+      if (qty != 0) power += static_cast<double>(AttrOf(UnitSlotType(unit, cls), kHitPoints)) * qty;
     }
     return power;
   }
   if (u.Theater == kAirTheater) {
-    if (u.InfQty != 0) power += static_cast<double>(Attr(u.InfType, kDogfight)) * u.InfQty;
-    if (u.MobQty != 0) power += static_cast<double>(Attr(u.MobType, kSoftAttack)) * u.MobQty;
-    if (u.ArtQty != 0) power += static_cast<double>(Attr(u.ArtType, kStrategicBombing)) * u.ArtQty;
-    if (u.ArmQty != 0) power += static_cast<double>(Attr(u.ArmType, kStrategicBombing)) * u.ArmQty;
+    if (u.InfQty != 0) power += static_cast<double>(AttrOf(u.InfType, kDogfight)) * u.InfQty;
+    if (u.MobQty != 0) power += static_cast<double>(AttrOf(u.MobType, kSoftAttack)) * u.MobQty;
+    if (u.ArtQty != 0) power += static_cast<double>(AttrOf(u.ArtType, kStrategicBombing)) * u.ArtQty;
+    if (u.ArmQty != 0) power += static_cast<double>(AttrOf(u.ArmType, kStrategicBombing)) * u.ArmQty;
     return power;
   }
   // Infantry and armour count by their staying power, guns and vehicles by their fire.
   if (u.InfQty != 0)
-    power += Attr(u.InfType, kHitPoints) / 20.0 * static_cast<double>(Attr(u.InfType, kSoftAttack)) * u.InfQty;
-  if (u.MobQty != 0) power += static_cast<double>(Attr(u.MobType, kSoftAttack)) * u.MobQty;
-  if (u.ArtQty != 0) power += static_cast<double>(Attr(u.ArtType, kSoftAttack)) * u.ArtQty;
+    power += AttrOf(u.InfType, kHitPoints) / 20.0 * static_cast<double>(AttrOf(u.InfType, kSoftAttack)) * u.InfQty;
+  if (u.MobQty != 0) power += static_cast<double>(AttrOf(u.MobType, kSoftAttack)) * u.MobQty;
+  if (u.ArtQty != 0) power += static_cast<double>(AttrOf(u.ArtType, kSoftAttack)) * u.ArtQty;
   if (u.ArmQty != 0)
-    power += Attr(u.ArmType, kHitPoints) / 20.0 * static_cast<double>(Attr(u.ArmType, kSoftAttack)) * u.ArmQty;
+    power += AttrOf(u.ArmType, kHitPoints) / 20.0 * static_cast<double>(AttrOf(u.ArmType, kSoftAttack)) * u.ArmQty;
   return power;
 }
 

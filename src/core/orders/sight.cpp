@@ -1,8 +1,10 @@
 #include "orders/sight.h"
 
+#include "model/arith.h"
 #include "model/bounds.h"
 #include "model/game_state.h"
 #include "model/hex_geometry.h"
+#include "model/type_lookup.h"
 
 namespace mf {
 namespace {
@@ -28,12 +30,7 @@ int FieldOfTheater(long theater) {
 
 // Recon points of one formation: one of its own, and what its troops bring.
 long long ReconPoints(int u) {
-  long long p = 1;
-  for (int cls = 1; cls <= 4; ++cls) {
-    const long t = UnitSlotType(u, cls);
-    if (ValidType(static_cast<int>(t))) p += static_cast<long long>(Type[t].Attr[kReconCap]) * UnitSlotQty(u, cls);
-  }
-  return p;
+  return AddSat64(1, UnitAttrTotal(u, kReconCap));
 }
 
 }  // namespace

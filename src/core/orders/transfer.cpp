@@ -10,8 +10,10 @@
 #include "model/counter_pic.h"
 #include "model/game_state.h"
 #include "model/stack.h"
+#include "model/type_lookup.h"
 #include "orders/flood.h"
 #include "orders/order_buttons.h"
+#include "orders/transport.h"
 
 namespace mf {
 
@@ -24,9 +26,6 @@ int UnitAt(long x, long y, long slot) {
   const long u = Hex[x][y].Unit[slot];
   return ValidUnit(static_cast<int>(u)) ? static_cast<int>(u) : 0;
 }
-
-const TypeRec& TypeOf(long t) { return ValidType(static_cast<int>(t)) ? Type[t] : Type[0]; }
-long Attr(long t, int attr) { return TypeOf(t).Attr[attr]; }
 
 // The pool of an SHQ unit; nullptr for anything else.
 ShqRec* PoolPtr(int u) {
@@ -57,14 +56,6 @@ long Capped(long n) { return std::clamp<long>(n, 0, kTransferRowMax); }
 double Divider(int ev) {
   const long d = EV(ev);
   return d == 0 ? 1.0 : static_cast<double>(d);
-}
-
-// Weight of a unit's troops as they stand.
-double WeightOf(int u) {
-  double w = 0;
-  for (int c = 1; c <= 4; ++c)
-    w += static_cast<double>(Attr(UnitSlotType(u, c), kWeight)) * static_cast<double>(UnitSlotQty(u, c));
-  return w;
 }
 
 void Say(const std::string& text) { Plat().ShowMessage(text, ""); }
@@ -150,7 +141,7 @@ void TransferDialog::Prepare(bool aiMode) {
     }
     // A formation carries on its own trucks, and only while they can still move.
     const UnitRec& s = Unit[source];
-    LandCap = s.MobQty > 0 && s.MP > 0 ? Attr(s.MobType, kCarryCap) * s.MobQty : 0;
+    LandCap = s.MobQty > 0 && s.MP > 0 ? AttrOf(s.MobType, kCarryCap) * s.MobQty : 0;
     SeaCap = 0;
   }
   supplyShown = sourceShq && destShq;
@@ -192,7 +183,7 @@ void TransferDialog::calc_tr_cost() {
   for (int c = 1; c <= 4; ++c) {
     const TransferRow& row = rows[c];
     if (row.type == 0 || row.chosen <= 0) continue;
-    const double w = static_cast<double>(Attr(row.type, kWeight)) * row.chosen;
+    const double w = static_cast<double>(AttrOf(row.type, kWeight)) * row.chosen;
     // Trucks and tanks drive themselves over land; only foot and guns ride.
     if (c == 1 || c == 3) w1 += w;
     w2 += w;
@@ -212,7 +203,7 @@ void TransferDialog::calc_tr_cost() {
   w1 += static_cast<double>(EV(28)) * q;
   w2 += static_cast<double>(EV(28)) * q;
   if (q > 0) ++landRows;
-  const double t = destShq ? 0.0 : WeightOf(dest) + pieces;
+  const double t = destShq ? 0.0 : static_cast<double>(UnitLoadWeight(dest)) + pieces;
 
   const HexRec& h = Hex[UI.SelX][UI.SelY];
   const double m = h.Mark, l = h.PathLand, a = h.PathSea;
@@ -357,7 +348,7 @@ void TransferDialog::CarryOut() {
     long slowest = -1;
     for (int c : {1, 2, 4}) {
       if (UnitSlotQty(source, c) <= 0) continue;
-      const long cap = Attr(UnitSlotType(source, c), kMovementCap);
+      const long cap = AttrOf(UnitSlotType(source, c), kMovementCap);
       if (slowest < 0 || cap < slowest) slowest = cap;
     }
     if (slowest >= 0 && slowest < s.MP) s.MP = static_cast<Long>(slowest);

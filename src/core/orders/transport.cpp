@@ -8,6 +8,7 @@
 #include "model/game_state.h"
 #include "model/hex_geometry.h"
 #include "model/stack.h"
+#include "model/type_lookup.h"
 #include "orders/flood.h"
 #include "orders/move_allowance.h"
 #include "orders/movement.h"
@@ -32,8 +33,6 @@ void Say(const std::string& text) { Plat().ShowMessage(text, ""); }
 void Sound(int slot) {
   if (UI.SoundOff == 0) Plat().PlaySound(slot);
 }
-
-long Attr(long type, int attr) { return ValidType(static_cast<int>(type)) ? Type[type].Attr[attr] : 0; }
 
 int UnitAt(long x, long y, long slot) {
   if (!ValidHex(static_cast<int>(x), static_cast<int>(y)) || slot < 1 || slot > kStackSlots) return 0;
@@ -126,17 +125,12 @@ void LandingBattle(int unit, int tx, int ty) {
   UI.Order.LandingOrder = landing;
 }
 
-long UnitLoadWeight(int unit) {
-  if (!ValidUnit(unit)) return 0;
-  long w = 0;
-  for (int cls = 1; cls <= 4; ++cls) w += Attr(UnitSlotType(unit, cls), kWeight) * UnitSlotQty(unit, cls);
-  return w;
-}
+long UnitLoadWeight(int unit) { return UnitAttrTotal(unit, kWeight); }
 
 long ShipCapacity(int ship, int load) {
   if (!ValidUnit(ship) || !ValidUnit(load)) return 0;
-  if (Unit[load].Theater == kAirTheater) return Attr(Unit[ship].ArtType, kCarryCap) * Unit[ship].ArtQty;
-  return Attr(Unit[ship].MobType, kCarryCap) * Unit[ship].MobQty;
+  if (Unit[load].Theater == kAirTheater) return AttrOf(Unit[ship].ArtType, kCarryCap) * Unit[ship].ArtQty;
+  return AttrOf(Unit[ship].MobType, kCarryCap) * Unit[ship].MobQty;
 }
 
 int FirstFreeSlot(int x, int y) {
@@ -374,11 +368,9 @@ void doAirsupply() {
   if (origin == 0 || wing == 0) return;
 
   // 4. What the formation needs, and what the transports can lift.
-  long long need = 0;
-  for (int cls = 1; cls <= 4; ++cls)
-    need += static_cast<long long>(Attr(UnitSlotType(target, cls), kSupplyNeed)) * UnitSlotQty(target, cls);
+  long long need = UnitAttrTotal(target, kSupplyNeed);
   const long long fullNeed = need;
-  const long long lift = static_cast<long long>(Attr(Unit[wing].MobType, kCarryCap)) * Unit[wing].MobQty;
+  const long long lift = AttrOf(Unit[wing].MobType, kCarryCap) * Unit[wing].MobQty;
   if (lift == 0) {
     Say("You can only use cargo aircraft to airsupply.");
     return;

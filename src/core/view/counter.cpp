@@ -5,17 +5,12 @@
 #include "model/arith.h"
 #include "model/game_state.h"
 #include "model/rnd.h"
+#include "model/type_lookup.h"
 #include "view/canvas.h"
 
 namespace mf {
 
 namespace {
-
-// A type number from a unit slot, made safe for indexing: anything outside
-// the table reads as type 0, which has no attributes.
-const TypeRec& TypeOf(Long t) { return ValidType(t) ? Type[t] : Type[0]; }
-
-Long Attr(Long t, int attr) { return TypeOf(t).Attr[attr]; }
 
 const RegimeRec& RegimeOf(Long r) { return ValidRegime(r) ? Regime[r] : Regime[0]; }
 
@@ -49,19 +44,20 @@ CounterNumbers CounterFigures(int u) {
     const double q = qtys[k];
     // Infantry and armour are many men and few tanks: their hit points weigh in.
     double w = 1.0;
-    if (k == 0) w = Attr(t, kHitPoints) / 20.0;
-    if (k == 3) w = Attr(t, kHitPoints) / 200.0;
-    soft += Attr(t, kSoftAttack) * q * w;
-    attack += (Attr(t, kSoftAttack) + Attr(t, kHardAttack)) * q * w;
-    defence += (Attr(t, kSoftDefense) + Attr(t, kHardDefense)) * q * w;
+    if (k == 0) w = AttrOf(t, kHitPoints) / 20.0;
+    if (k == 3) w = AttrOf(t, kHitPoints) / 200.0;
+    soft += AttrOf(t, kSoftAttack) * q * w;
+    attack += (AttrOf(t, kSoftAttack) + AttrOf(t, kHardAttack)) * q * w;
+    defence += (AttrOf(t, kSoftDefense) + AttrOf(t, kHardDefense)) * q * w;
   }
   n.softAttack = soft;
   n.attackSum = attack;
   n.attack = ScaleFigure(attack, un.Readiness, un.Experience);
   n.defence = ScaleFigure(defence, un.Readiness, un.Experience);
-  if (un.ArtType > 0 && Attr(un.ArtType, kArtilleryRange) > 1) {
+  if (un.ArtType > 0 && AttrOf(un.ArtType, kArtilleryRange) > 1) {
     n.hasArtillery = true;
-    const double guns = static_cast<double>(Attr(un.ArtType, kArtilleryAttack) + Attr(un.ArtType, kAntiAirCap)) * un.ArtQty;
+    const double guns =
+        static_cast<double>(AttrOf(un.ArtType, kArtilleryAttack) + AttrOf(un.ArtType, kAntiAirCap)) * un.ArtQty;
     n.artillery = ScaleFigure(guns, un.Readiness, un.Experience);
   }
   return n;

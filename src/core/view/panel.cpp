@@ -7,6 +7,7 @@
 #include "model/arith.h"
 #include "model/game_state.h"
 #include "model/hex_geometry.h"
+#include "model/type_lookup.h"
 #include "view/counter.h"
 #include "view/draw_hex.h"
 
@@ -28,8 +29,6 @@ const char* const kHidden = "N/A";
 const char* const kNoBoss = "None assigned";
 const char* const kUnexploredCaption = "Unexplored hex";
 
-const TypeRec& TypeOf(Long t) { return ValidType(t) ? Type[t] : Type[0]; }
-Long Attr(Long t, int attr) { return TypeOf(t).Attr[attr]; }
 const UnitRec& UnitOf(Long u) { return ValidUnit(u) ? Unit[u] : Unit[0]; }
 
 // The words for an empty troop class, by class and theater.
@@ -175,7 +174,7 @@ void FillTroops(int u, bool full) {
   if (un.Theater == kLandTheater) {
     if (full) Panel.troops[1].extraText = CoverText(u);
     if (un.ArtType > 0) {
-      const Long range = Attr(un.ArtType, kArtilleryRange);
+      const Long range = AttrOf(un.ArtType, kArtilleryRange);
       Panel.troops[3].extraText = range > 1 ? "RANGE: " + NumText(range) : "FRONT ART";
     }
   }
@@ -269,15 +268,15 @@ std::string CoverText(int u) {
   const UnitRec& un = Unit[u];
   double fInf = 0, fArt = 0, fArm = 0;
   LoneFrontage(u, &fInf, &fArt, &fArm);
-  const double pInf = static_cast<double>(Attr(un.InfType, kFrontsize)) * un.InfQty;
-  const double pArm = static_cast<double>(Attr(un.ArmType, kFrontsize)) * un.ArmQty;
+  const double pInf = static_cast<double>(AttrOf(un.InfType, kFrontsize)) * un.InfQty;
+  const double pArm = static_cast<double>(AttrOf(un.ArmType, kFrontsize)) * un.ArmQty;
   // Shares of the infantry and the armour that stand in the line.
   double fi = 100, fa = 100;
   if (fInf < pInf) fi = static_cast<double>(Int(100 * fInf / pInf));
   if (fArm < pArm) fa = static_cast<double>(Int(100 * fArm / pArm));
   // How many of the infantry the armour in the line can carry.
-  const double lift = static_cast<double>(Attr(un.ArmType, kCarryCap)) * un.ArmQty;
-  const Long weight = Attr(un.InfType, kWeight);
+  const double lift = static_cast<double>(AttrOf(un.ArmType, kCarryCap)) * un.ArmQty;
+  const Long weight = AttrOf(un.InfType, kWeight);
   double c = (un.InfType > 0 && weight != 0) ? static_cast<double>(Int(lift / weight)) : static_cast<double>(Int(lift));
   c = c * fa / 100;
   const double inLine = un.InfQty * fi / 100;

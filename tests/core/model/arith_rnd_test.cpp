@@ -52,6 +52,14 @@ TEST(Arith, Clamp32AndAddSatStopAtTheEndsOfALong) {
   EXPECT_EQ(AddSat(INT32_MAX, INT64_MIN), INT32_MIN);
 }
 
+TEST(Arith, AddSat64StopsAtTheEndsOfA64BitTotal) {
+  EXPECT_EQ(AddSat64(10, -15), -5);
+  EXPECT_EQ(AddSat64(INT64_MAX - 2, 5), INT64_MAX);
+  EXPECT_EQ(AddSat64(INT64_MIN + 2, -5), INT64_MIN);
+  EXPECT_EQ(AddSat64(INT64_MAX, INT64_MIN), -1);
+  EXPECT_EQ(AddSat64(INT64_MIN, INT64_MIN), INT64_MIN);
+}
+
 TEST(Arith, CIntRoundsHalvesToTheEvenNeighbour) {
   EXPECT_EQ(CInt(2.5), 2);
   EXPECT_EQ(CInt(3.5), 4);
