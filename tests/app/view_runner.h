@@ -6,6 +6,7 @@
 
 #include <QApplication>
 #include <QDialog>
+#include <QElapsedTimer>
 #include <QTimer>
 #include <filesystem>
 #include <functional>
@@ -32,24 +33,43 @@ inline void KeepPicture(QWidget* d, const char* file) {
   EXPECT_TRUE(shot.save(QString::fromStdString((dir / file).string()), "PNG"));
 }
 
+// Calls `inside` once the dialog window `windowName` is up: a window may be
+// built and shown a moment after the view starts, so it is looked for every
+// 10 ms. After two seconds a window still missing is a failure, and a window
+// still open is closed, so that a failure cannot hang the suite.
+inline void WhenDialogUp(QWidget* parent, const char* windowName, const std::function<void(QDialog*)>& inside,
+                         bool* ran) {
+  auto* poll = new QTimer(parent);
+  auto* clock = new QElapsedTimer();
+  clock->start();
+  QObject::connect(poll, &QTimer::timeout, parent, [=] {
+    QDialog* d = VisibleDialog(windowName);
+    if (!d && clock->elapsed() < 2000) return;
+    poll->stop();
+    poll->deleteLater();
+    delete clock;
+    if (!d) {
+      ADD_FAILURE() << windowName << " never opened";
+      return;
+    }
+    *ran = true;
+    inside(d);
+    QTimer::singleShot(2000, parent, [windowName] {
+      if (QDialog* still = VisibleDialog(windowName)) {
+        ADD_FAILURE() << windowName << " was still open";
+        still->done(0);
+      }
+    });
+  });
+  poll->start(10);
+}
+
 // Runs the registered view of a dialog over `parent`; `inside` runs once its
-// window `windowName` is up. A window still open after two seconds is closed
-// so that a failure cannot hang the suite.
+// window `windowName` is up.
 inline void RunDialogView(mf::HumbleDialog& dialog, QWidget* parent, const char* windowName,
                           const std::function<void(QDialog*)>& inside) {
   bool ran = false;
-  QTimer::singleShot(0, parent, [&] {
-    QDialog* d = VisibleDialog(windowName);
-    ran = true;
-    ASSERT_NE(d, nullptr) << windowName;
-    inside(d);
-  });
-  QTimer::singleShot(2000, parent, [&] {
-    if (QDialog* d = VisibleDialog(windowName)) {
-      ADD_FAILURE() << windowName << " was still open";
-      d->done(0);
-    }
-  });
+  WhenDialogUp(parent, windowName, inside, &ran);
   auto view = FindDialogView(dialog.DialogName());
   ASSERT_TRUE(static_cast<bool>(view)) << dialog.DialogName();
   view(dialog, parent);
