@@ -1,5 +1,6 @@
-// Running one dialog view inside a GUI test: find its window once it is up,
-// act in it, keep a picture of it for a person to look at.
+// What the GUI tests share: running one dialog view and finding its window
+// once it is up, acting in it, keeping a picture of it for a person to look
+// at, and reading the texts the window shows.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -7,6 +8,7 @@
 #include <QApplication>
 #include <QDialog>
 #include <QElapsedTimer>
+#include <QLabel>
 #include <QTimer>
 #include <filesystem>
 #include <functional>
@@ -22,6 +24,13 @@ inline QDialog* VisibleDialog(const char* name) {
     if (d && d->isVisible() && d->objectName() == name) return d;
   }
   return nullptr;
+}
+
+// The text of the label with that object name under `root`, or a text that
+// says it is missing (which no expected text equals).
+inline QString LabelText(QWidget* root, const char* name) {
+  auto* l = root->findChild<QLabel*>(name);
+  return l ? l->text() : QString("<no label %1>").arg(name);
 }
 
 // Keeps a picture of a dialog window in the build folder.
