@@ -5,10 +5,12 @@
 #include "battle_view.h"
 #include "clear_dialog_view.h"
 #include "diplomatics_view.h"
+#include "editor_views.h"
 #include "event_view.h"
 #include "new_turn_view.h"
 #include "newunit_view.h"
 #include "officerpool_view.h"
+#include "random_scenario_view.h"
 #include "research_view.h"
 #include "start_game_view.h"
 #include "transfer_view.h"
@@ -34,10 +36,12 @@ void RegisterAllDialogViews() {
   RegisterBattleView();
   RegisterClearDialogView();
   RegisterDiplomaticsView();
+  RegisterEditorViews();
   RegisterEventView();
   RegisterNewTurnView();
   RegisterNewUnitView();
   RegisterOfficerPoolView();
+  RegisterRandomScenarioView();
   RegisterResearchView();
   RegisterStartGameView();
   RegisterTransferView();

@@ -1,5 +1,7 @@
 #include "main_window.h"
 
+#include "analysis_panel.h"
+
 #include "view_text.h"
 
 #include <QActionGroup>
@@ -15,6 +17,7 @@
 #include <QVBoxLayout>
 
 #include "ai/ai_state.h"
+#include "control/editor_menu.h"
 #include "control/keyboard.h"
 #include "control/menu_state.h"
 #include "control/order_state.h"
@@ -24,11 +27,15 @@
 #include "help_window.h"
 #include "map_widget.h"
 #include "minimap.h"
+#include "paint_panel.h"
+#include "editor/map_paint.h"
 #include "model/clear_dialog.h"
 #include "model/game_state.h"
 #include "model/hex_geometry.h"
 #include "orders/command.h"
 #include "platform/platform.h"
+#include "control/random_flow.h"
+#include "random/random_dialog.h"
 #include "qt_canvas.h"
 #include "qt_platform.h"
 #include "side_panel.h"
@@ -172,6 +179,12 @@ MainWindow::MainWindow(QtPlatform* platform) : platform_(platform) {
   }
 
   connect(map_, &MapWidget::Acted, this, [this] { SyncWithGame(); });
+  connect(map_, &MapWidget::HexDragged, this, [this](int x, int y) { Act([x, y] {
+    if (!mf::PaintStrokeOpen()) return;
+    mf::SelectHex(x, y);
+    mf::PaintDragTo(x, y);
+  }); });
+  connect(map_, &MapWidget::ButtonReleased, this, [this] { Act([] { mf::EndPaintStroke(); }); });
   connect(map_, &MapWidget::HexPressed, this,
           [this](int x, int y, int button) { Act([x, y, button] { mf::ClickMap(x, y, button); }); });
   connect(minimap_, &Minimap::Acted, this, [this] { SyncWithGame(); });
@@ -205,6 +218,7 @@ MainWindow::~MainWindow() {
   if (platform_) {
     platform_->SetParentWindow(nullptr);
     platform_->SetBeforeDialog(nullptr);
+    platform_->SetAnalysisSink(nullptr);
   }
 }
 
@@ -247,14 +261,17 @@ QWidget* MainWindow::BuildCentre() {
   // Left: the map, the analysis log, the order buttons.
   auto* left = new QVBoxLayout();
   left->setSpacing(0);
+  auto* mapRow = new QHBoxLayout();
+  mapRow->setSpacing(0);
   map_ = new MapWidget(centre);
-  left->addWidget(map_, 1);
-  aiLog_ = new QListWidget(centre);
-  aiLog_->setObjectName("aiLog");
-  aiLog_->setMaximumHeight(120);
-  aiLog_->setFocusPolicy(Qt::NoFocus);
+  mapRow->addWidget(map_, 1);
+  // The computer player's analysis beside the map, F11 outside the editor.
+  aiLog_ = new AnalysisPanel(centre);
+  aiLog_->setFixedWidth(320);
   aiLog_->hide();
-  left->addWidget(aiLog_);
+  mapRow->addWidget(aiLog_);
+  left->addLayout(mapRow, 1);
+  if (platform_) platform_->SetAnalysisSink([this](const std::string& line) { aiLog_->Append(line); });
 
   orderBar_ = new QFrame(centre);
   orderBar_->setObjectName("orderBar");
@@ -303,6 +320,8 @@ QWidget* MainWindow::BuildCentre() {
   minimap_ = new Minimap(rightColumn_);
   minimap_->setFixedHeight(190);
   right->addWidget(minimap_);
+  paintPanel_ = new PaintPanel(rightColumn_, this, [this](std::function<void()> c) { Act(c); });
+  right->addWidget(paintPanel_);
   panel_ = new SidePanel(rightColumn_);
   auto* scroll = new QScrollArea(rightColumn_);
   scroll->setObjectName("panelScroll");
@@ -368,6 +387,7 @@ void MainWindow::BuildMenus() {
     if (ThrowAwayGameConfirmed()) mf::NewScenarioCommand();
   });
   AddAction(file, "clearMap", "Clear Map...", [] { mf::ClearMapCommand(); });
+  AddAction(file, "randomScenario", "Random Scenario...", [] { mf::dostartgame(); });
   file->addSeparator();
   AddAction(file, "load", "Load...", [] {
     if (ThrowAwayGameConfirmed()) mf::LoadCommand();
@@ -392,6 +412,10 @@ void MainWindow::BuildMenus() {
   AddAction(game, "surrender", "Surrender", [] {
     if (SurrenderConfirmed()) mf::SurrenderCommand();
   });
+  game->addSeparator();
+  for (const auto& e : mf::GameMenuEntries()) AddMenuDialog(game, e.name, e.text);
+  // F3 opens the status reports, as the key beside the editor's F2.
+  if (QAction* status = action("status")) status->setShortcut(QKeySequence(Qt::Key_F3));
 
   QMenu* view = menuBar()->addMenu("&View");
   const struct {
@@ -434,6 +458,8 @@ void MainWindow::BuildMenus() {
 
   QMenu* edit = menuBar()->addMenu("&Edit");
   AddAction(edit, "editor", "Editor", [] { mf::ToggleEditor(); }, true);
+  edit->addSeparator();
+  for (const auto& e : mf::EditMenuEntries()) AddMenuDialog(edit, e.name, e.text);
 
   // Help can be read at any time, also while the computer plays: the windows
   // stand beside the game and change nothing in it.
@@ -458,6 +484,14 @@ void MainWindow::BuildMenus() {
     });
     actions_[page.name] = a;
   }
+}
+
+void MainWindow::AddMenuDialog(QMenu* menu, const std::string& name, const char* text) {
+  AddAction(menu, name, text, [name] {
+    std::string why;
+    mf::OpenMenuDialog(name, &why);
+  });
+  menuDialogs_.push_back(name);
 }
 
 QAction* MainWindow::action(const std::string& name) const {
@@ -513,13 +547,16 @@ void MainWindow::ReloadPicturesIfNeeded() {
 void MainWindow::ApplyMenuState() {
   const mf::MenuState m = mf::GetMenuState();
   const std::pair<const char*, bool> enabled[] = {
-      {"newScenario", m.newScenario}, {"clearMap", m.clearMap}, {"load", m.load},
+      {"newScenario", m.newScenario}, {"clearMap", m.clearMap}, {"randomScenario", m.randomScenario}, {"load", m.load},
       {"save", m.save},               {"import", m.import},     {"scenario1", m.scenarios},
       {"scenario2", m.scenarios},     {"scenario3", m.scenarios}, {"scenario4", m.scenarios},
       {"quit", m.quit},               {"start", m.start},       {"endTurn", m.endTurn},
       {"surrender", m.surrender},     {"editor", m.editor}};
   for (const auto& [name, on] : enabled) {
     if (QAction* a = action(name)) a->setEnabled(on);
+  }
+  for (const auto& name : menuDialogs_) {
+    if (QAction* a = action(name)) a->setEnabled(mf::MenuDialogEnabled(name));
   }
   const std::pair<const char*, bool> checked[] = {{"showEnemy", m.showEnemy},
                                                   {"showSight", m.showSight},
@@ -564,7 +601,11 @@ void MainWindow::SyncWithGame() {
   }
 
   // The map: scroll bars, then what the game asked to be redrawn.
-  map_->SetInteractive(!UI.BusyPointer);
+  // While the computer plays, and until the timer ends its turn, the map is
+  // only watched: a press on it would give orders to the computer's units.
+  const bool computerToMove = UI.EditMode == 0 && Game.Turn > 0 && ValidRegime(static_cast<int>(Game.CurRegime)) &&
+                              Regime[Game.CurRegime].AI > 0;
+  map_->SetInteractive(!UI.BusyPointer && !computerToMove);
   map_->SyncFromGame();
   const bool redraw = UI.RedrawRequest > 0;
   map_->RedrawRequested();
@@ -594,6 +635,7 @@ void MainWindow::SyncWithGame() {
   orderBar_->setVisible(UI.MapControlsShown);
   aiLog_->setVisible(UI.AILogShown);
   ApplyButtons();
+  paintPanel_->Sync();
   buttons_["nextturn"]->setVisible(UI.MapControlsShown);
   if (platform_) platform_->SetBusy(UI.BusyPointer);
   ApplyMenuState();

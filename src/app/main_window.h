@@ -15,6 +15,7 @@
 #include <functional>
 #include <map>
 #include <string>
+#include <vector>
 
 namespace mf::app {
 
@@ -22,6 +23,7 @@ class MapWidget;
 class Minimap;
 class SidePanel;
 class QtPlatform;
+class AnalysisPanel;
 
 // The order buttons of the map window, by the names scripts press them with,
 // with the short caption on the button and the tool tip the rules give it.
@@ -85,6 +87,8 @@ class MainWindow : public QMainWindow {
   QWidget* BuildCentre();
   QAction* AddAction(QMenu* menu, const std::string& name, const QString& text,
                      const std::function<void()>& command, bool checkable = false);
+  // A menu entry that opens an editor or a report by its name.
+  void AddMenuDialog(QMenu* menu, const std::string& name, const char* text);
   void LayOutOrderButtons(int perRow);
   void Tick();
   void ReloadPicturesIfNeeded();
@@ -106,11 +110,12 @@ class MainWindow : public QMainWindow {
   MapWidget* map_ = nullptr;
   Minimap* minimap_ = nullptr;
   SidePanel* panel_ = nullptr;
+  class PaintPanel* paintPanel_ = nullptr;
   QWidget* rightColumn_ = nullptr;
   QWidget* orderBar_ = nullptr;
   QGridLayout* orderGrid_ = nullptr;
   int orderButtonsPerRow_ = 0;
-  QListWidget* aiLog_ = nullptr;
+  AnalysisPanel* aiLog_ = nullptr;
   QLabel* regimeLabel_ = nullptr;
   QLabel* turnLabel_ = nullptr;
   QLabel* ppLabel_ = nullptr;
@@ -119,6 +124,7 @@ class MainWindow : public QMainWindow {
   QLabel* orderLine_ = nullptr;
   QLabel* bigPicture_ = nullptr;
   std::map<std::string, QAction*> actions_;
+  std::vector<std::string> menuDialogs_;  // entries of AddMenuDialog
   std::map<std::string, QPushButton*> buttons_;
   QTimer timer_;
   int acting_ = 0;

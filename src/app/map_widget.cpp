@@ -1,6 +1,8 @@
 #include "map_widget.h"
 
 #include <QGridLayout>
+#include <algorithm>
+#include <cstdlib>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QHelpEvent>
@@ -15,6 +17,7 @@
 #include "model/hex_geometry.h"
 #include "model/reset.h"
 #include "view/draw_hex.h"
+#include "editor/map_paint.h"
 #include "view/panel.h"
 
 namespace mf::app {
@@ -30,6 +33,20 @@ const QColor kMapBackground(24, 28, 34);
 const QColor kReachColour(130, 235, 255);
 // The mark of a formation joined to the attack being prepared.
 constexpr int kJoinedSprite = 892;
+
+// The outline of a hex around its centre on the view.
+QPainterPath HexOutline(QPoint c, int z) {
+  const int cx = c.x(), cy = c.y();
+  QPainterPath path;
+  path.moveTo(cx - 21 * z, cy - 10 * z);
+  path.lineTo(cx - 21 * z, cy + 10 * z);
+  path.lineTo(cx, cy + 20 * z);
+  path.lineTo(cx + 21 * z, cy + 10 * z);
+  path.lineTo(cx + 21 * z, cy - 10 * z);
+  path.lineTo(cx, cy - 20 * z);
+  path.closeSubpath();
+  return path;
+}
 
 }  // namespace
 
@@ -150,7 +167,28 @@ void MapWidget::Pressed(QPoint pos, Qt::MouseButton button) {
   if (!interactive_ || !UI.MapShown) return;
   if (button != Qt::LeftButton && button != Qt::RightButton) return;
   const HexXY h = HexAt(pos);
+  dragged_ = h;
   emit HexPressed(h.x, h.y, button == Qt::LeftButton ? kLeftButton : kRightButton);
+}
+
+void MapWidget::Moved(QPoint pos, Qt::MouseButtons buttons) {
+  const HexXY h = HexAt(pos);
+  const bool brush = !BrushLabel().empty();
+  if (h.x != hover_.x || h.y != hover_.y) {
+    hover_ = h;
+    if (brush) view_->update();
+  }
+  if (!interactive_ || !UI.MapShown || !brush || !(buttons & Qt::LeftButton)) return;
+  // Every hex the pointer crosses, once: a fast pointer may skip a hex
+  // between two moves, so the way between is walked in small steps.
+  if (h.x <= 0 || h.y <= 0 || (h.x == dragged_.x && h.y == dragged_.y)) return;
+  dragged_ = h;
+  emit HexDragged(h.x, h.y);
+}
+
+void MapWidget::Released(Qt::MouseButton button) {
+  if (button != Qt::LeftButton || BrushLabel().empty()) return;
+  emit ButtonReleased();
 }
 
 void MapWidget::ScrollMoved(Qt::Orientation o, int value, bool dragging) {
@@ -252,22 +290,30 @@ void MapView::paintEvent(QPaintEvent*) {
 
   // The selected hex: an outline over the picture, so that selecting never
   // needs the hexes repainted just for the highlight.
+  p.setRenderHint(QPainter::Antialiasing, true);
   if (ValidHex(static_cast<int>(UI.SelX), static_cast<int>(UI.SelY))) {
-    const QPoint c = owner_->HexCentreOnView(static_cast<int>(UI.SelX), static_cast<int>(UI.SelY));
-    const int cx = c.x(), cy = c.y();
-    QPainterPath path;
-    path.moveTo(cx - 21 * z, cy - 10 * z);
-    path.lineTo(cx - 21 * z, cy + 10 * z);
-    path.lineTo(cx, cy + 20 * z);
-    path.lineTo(cx + 21 * z, cy + 10 * z);
-    path.lineTo(cx + 21 * z, cy - 10 * z);
-    path.lineTo(cx, cy - 20 * z);
-    path.closeSubpath();
-    p.setRenderHint(QPainter::Antialiasing, true);
+    const QPainterPath path = HexOutline(owner_->HexCentreOnView(static_cast<int>(UI.SelX), static_cast<int>(UI.SelY)), z);
     p.setPen(QPen(QColor(0, 0, 0, 160), 4 * z));
     p.drawPath(path);
     p.setPen(QPen(QColor(255, 230, 90), 2 * z));
     p.drawPath(path);
+  }
+
+  // The brush under the pointer: the hex it would paint, and what it paints.
+  const std::string brush = BrushLabel();
+  const HexXY h = owner_->hover_;
+  if (!brush.empty() && ValidHex(h.x, h.y)) {
+    const QPoint c = owner_->HexCentreOnView(h.x, h.y);
+    const QPainterPath path = HexOutline(c, z);
+    p.fillPath(path, QColor(255, 255, 255, 70));
+    p.setPen(QPen(QColor(40, 200, 255), 2 * z, Qt::DashLine));
+    p.drawPath(path);
+    const QString text = QString::fromStdString(brush);
+    const QRect box = p.fontMetrics().boundingRect(text).adjusted(-4, -2, 4, 2);
+    const QRect at = box.translated(c.x() - box.center().x(), c.y() - 22 * z - box.bottom() - 2);
+    p.fillRect(at, QColor(20, 24, 30, 210));
+    p.setPen(QColor(235, 240, 245));
+    p.drawText(at, Qt::AlignCenter, text);
   }
 }
 
@@ -355,6 +401,27 @@ void MapView::wheelEvent(QWheelEvent* e) { owner_->Wheel(e); }
 
 void MapView::resizeEvent(QResizeEvent*) { owner_->ViewResized(); }
 
-void MapView::mousePressEvent(QMouseEvent* e) { owner_->Pressed(e->position().toPoint(), e->button()); }
+void MapView::mousePressEvent(QMouseEvent* e) {
+  owner_->Pressed(e->position().toPoint(), e->button());
+  lastPos_ = e->position().toPoint();
+}
+
+void MapView::mouseMoveEvent(QMouseEvent* e) {
+  // The way from the last place is walked in steps of a few pixels, so that
+  // no hex crossed by a quick stroke is missed.
+  const QPoint to = e->position().toPoint();
+  const QPoint from = lastPos_;
+  const int steps = std::max(1, (std::abs(to.x() - from.x()) + std::abs(to.y() - from.y())) / 4);
+  for (int i = 1; i <= steps; ++i)
+    owner_->Moved(from + (to - from) * i / steps, e->buttons());
+  lastPos_ = to;
+}
+
+void MapView::mouseReleaseEvent(QMouseEvent* e) { owner_->Released(e->button()); }
+
+void MapView::leaveEvent(QEvent*) {
+  owner_->hover_ = HexXY{};
+  update();
+}
 
 }  // namespace mf::app

@@ -44,6 +44,10 @@ class MapWidget : public QWidget {
   // A press of a mouse button on hex (x, y) (zeros off the map), with the
   // game's button number; the window runs it as a command of the player.
   void HexPressed(int x, int y, int button);
+  // With a paint brush on: the pointer dragged onto another hex with the
+  // left button held, and the button let go.
+  void HexDragged(int x, int y);
+  void ButtonReleased();
   // Ctrl and the mouse wheel changed the zoom.
   void ZoomChanged(int zoom);
 
@@ -51,6 +55,9 @@ class MapWidget : public QWidget {
   friend class MapView;
   void ViewResized();
   void Pressed(QPoint pos, Qt::MouseButton button);
+  // The pointer moved (buttons held as given) or left the map.
+  void Moved(QPoint pos, Qt::MouseButtons buttons);
+  void Released(Qt::MouseButton button);
   void ScrollMoved(Qt::Orientation o, int value, bool dragging);
   void ScrollReleased();
   // The wheel scrolls (with Shift or a sideways wheel across), with Ctrl zooms.
@@ -70,6 +77,10 @@ class MapWidget : public QWidget {
   bool syncing_ = false;
   bool syncQueued_ = false;
   bool interactive_ = true;
+  // The hex under the pointer, where the brush is shown, and the hex the
+  // last drag reached.
+  HexXY hover_;
+  HexXY dragged_;
   int wheelRest_ = 0;  // eighths of a degree not yet turned into a step
 };
 
@@ -83,6 +94,9 @@ class MapView : public QWidget {
   void paintEvent(QPaintEvent*) override;
   void resizeEvent(QResizeEvent*) override;
   void mousePressEvent(QMouseEvent*) override;
+  void mouseMoveEvent(QMouseEvent*) override;
+  void mouseReleaseEvent(QMouseEvent*) override;
+  void leaveEvent(QEvent*) override;
   void wheelEvent(QWheelEvent*) override;
   // The hover tip: what the player may know of the hex under the mouse.
   bool event(QEvent*) override;
@@ -93,6 +107,7 @@ class MapView : public QWidget {
   // The edge of the hexes within reach of the order under way.
   void DrawReachOutline(QPainter& p);
   MapWidget* owner_;
+  QPoint lastPos_;
 };
 
 }  // namespace mf::app

@@ -1,6 +1,8 @@
 #include "qt_canvas.h"
 
 #include <QFileInfo>
+#include <algorithm>
+#include <cstdlib>
 #include <QFont>
 #include <QFontMetrics>
 
@@ -167,14 +169,21 @@ void ImageCanvas::Text(const std::string& text, int x, int y, const std::string&
   const QFontMetrics fm(f);
   const QString t = QString::fromStdString(text);
   const QColor ink = GameColour(colour);
-  if (!figures) {
-    // Figures over the terrain get a halo of the opposite lightness, so
-    // green reads on grass and black on forest.
+  // What the figure stands on: the counter's band, or the terrain.
+  const int bx = std::clamp((x + 1) * scale_, 0, image_.width() - 1);
+  const int by = std::clamp((y + 3) * scale_, 0, image_.height() - 1);
+  const QColor ground = image_.pixelColor(bx, by);
+  const bool faint = std::abs(ink.lightness() - ground.lightness()) < 100;
+  if (!figures || faint) {
+    // A halo of the opposite lightness wherever the ink alone would not
+    // read: green on grass, white figures on a light counter.
     const QColor halo = ink.lightness() > 110 ? QColor(10, 14, 18, 230) : QColor(250, 246, 230, 230);
     p.setPen(halo);
+    // Round the terrain all eight ways; on a counter's band the four
+    // straight ones, so that small figures stay clean.
     for (int dx = -1; dx <= 1; ++dx)
       for (int dy = -1; dy <= 1; ++dy)
-        if (dx != 0 || dy != 0) p.drawText(x + dx, y + dy + fm.ascent(), t);
+        if ((dx != 0 || dy != 0) && (!figures || dx == 0 || dy == 0)) p.drawText(x + dx, y + dy + fm.ascent(), t);
   }
   p.setPen(ink);
   p.drawText(x, y + fm.ascent(), t);

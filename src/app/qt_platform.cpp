@@ -2,6 +2,8 @@
 #include "view_text.h"
 
 #include <QApplication>
+#include <QColor>
+#include <QColorDialog>
 #include <QCursor>
 #include <QElapsedTimer>
 #include <QFileDialog>
@@ -191,6 +193,21 @@ void QtPlatform::RunDialog(mf::HumbleDialog& dialog) {
     std::string why;
     if (!dialog.Act(dialog.DefaultAction(), "", &why)) break;
   }
+}
+
+bool QtPlatform::PickColor(long* rgb) {
+  if (unattended_) {
+    const std::string a = NextAnswer("cancel");
+    const QColor c(QString::fromStdString(a));
+    std::cerr << "COLOUR -> " << (c.isValid() ? a : std::string("cancel")) << "\n";
+    if (!c.isValid()) return false;
+    *rgb = (static_cast<long>(c.red()) << 16) | (c.green() << 8) | c.blue();
+    return true;
+  }
+  const QColor c = QColorDialog::getColor(Qt::white, parent_, "Text Colour");
+  if (!c.isValid()) return false;
+  *rgb = (static_cast<long>(c.red()) << 16) | (c.green() << 8) | c.blue();
+  return true;
 }
 
 unsigned QtPlatform::TickCount() { return static_cast<unsigned>(Clock().elapsed()); }

@@ -46,6 +46,15 @@ class QtPlatform : public mf::Platform {
   unsigned TickCount() override;
 
   bool MouseButtonDown() override;
+  // Each line of the computer player's analysis goes to the sink (the main
+  // window's analysis list) as it is written.
+  void AnalysisLine(const std::string& line) override {
+    if (analysisSink_) analysisSink_(line);
+  }
+  void SetAnalysisSink(std::function<void(const std::string&)> sink) { analysisSink_ = std::move(sink); }
+  // The native colour picker; unattended it takes a queued "#rrggbb" answer
+  // (anything else, or nothing queued, is a cancel).
+  bool PickColor(long* rgb) override;
 
   // Unattended: nobody sits at the screen (a screenshot run, the GUI tests).
   // Message boxes are written to the error stream and recorded instead of
@@ -76,6 +85,7 @@ class QtPlatform : public mf::Platform {
             const std::string& answer);
 
   QPointer<QWidget> parent_;
+  std::function<void(const std::string&)> analysisSink_;
   bool unattended_ = false;
   std::deque<std::string> answers_;
   std::deque<std::string> files_;

@@ -93,7 +93,6 @@ void ShowUrbanProduction(mf::HumbleDialog& humble, QWidget* parent) {
   left->addWidget(changeProd);
   auto* info = new QPushButton(Dialog::kShowInfo, &window);
   info->setObjectName("info");
-  info->setVisible(Dialog::kInfoAvailable);
   left->addWidget(info);
   lists->addLayout(left, 1);
 
@@ -136,7 +135,7 @@ void ShowUrbanProduction(mf::HumbleDialog& humble, QWidget* parent) {
     selectedShq->setText(Q(dialog->selectedShq));
     changeProd->setEnabled(dialog->changeProdEnabled);
     changeShq->setEnabled(dialog->changeShqEnabled);
-    info->setEnabled(dialog->infoEnabled && Dialog::kInfoAvailable);
+    info->setEnabled(dialog->infoEnabled);
     if (!dialog->IsOpen()) window.accept();
   };
   FillList(types, dialog->typeRows, dialog->typeRow);

@@ -138,6 +138,7 @@ int PlayCommand(const Args& args, std::ostream& out, std::ostream& err) {
                      e.kind == PlatformEvent::kPrompt;
     if (box && !loading) out << FormatEvent(e) << "\n";
   };
+  platform.keepAnalysis = false;
   InstallPlatform(&platform);
   struct Uninstall {
     ~Uninstall() { InstallPlatform(nullptr); }

@@ -12,11 +12,13 @@
 #include "ai/ai_turn.h"
 #include "ai/stage_names.h"
 #include "combat/battle_window.h"
+#include "control/editor_menu.h"
 #include "control/keyboard.h"
 #include "control/order_state.h"
 #include "control/scenario_flow.h"
 #include "control/selection.h"
 #include "control/turn_cycle.h"
+#include "editor/map_paint.h"
 #include "engine/show_supply.h"
 #include "files/field_registry.h"
 #include "model/arith.h"
@@ -27,6 +29,8 @@
 #include "orders/command.h"
 #include "platform/paths.h"
 #include "platform/scripted_platform.h"
+#include "control/random_flow.h"
+#include "random/random_dialog.h"
 #include "script_tokenizer.h"
 #include "session.h"
 
@@ -45,6 +49,7 @@ struct Run {
   std::ostream& out;
   ScriptedPlatform platform;
   std::size_t msgCursor = 0;
+  std::size_t reportCursor = 0;
   std::string tempDir;  // made on the first use of $TMP, removed at the end
 
   Run(std::string n, std::string dir, std::ostream& o) : name(std::move(n)), baseDir(std::move(dir)), out(o) {}
@@ -158,13 +163,16 @@ bool Expect(Run&, const Words& a, std::string* why) {
   return true;
 }
 
+// A message box, a question or a prompt: what expect-msg looks at.
+bool IsBox(const PlatformEvent& e) {
+  return e.kind == PlatformEvent::kMessage || e.kind == PlatformEvent::kQuestion || e.kind == PlatformEvent::kPrompt;
+}
+
 bool ExpectMsg(Run& run, const Words& a, std::string* why) {
   const auto& events = run.platform.Events();
   for (std::size_t i = run.msgCursor; i < events.size(); ++i) {
     const auto& e = events[i];
-    const bool box = e.kind == PlatformEvent::kMessage || e.kind == PlatformEvent::kQuestion ||
-                     e.kind == PlatformEvent::kPrompt;
-    if (box && e.text == a[0]) {
+    if (IsBox(e) && e.text == a[0]) {
       run.msgCursor = i + 1;
       return true;
     }
@@ -172,6 +180,36 @@ bool ExpectMsg(Run& run, const Words& a, std::string* why) {
   *why = "expect-msg: no message \"" + a[0] + "\" was shown";
   return false;
 }
+
+// Fails when a message box, question or prompt with that text was shown
+// since the last expect-msg that matched; consumes nothing.
+bool ExpectNoMsg(Run& run, const Words& a, std::string* why) {
+  const auto& events = run.platform.Events();
+  for (std::size_t i = run.msgCursor; i < events.size(); ++i) {
+    const auto& e = events[i];
+    if (IsBox(e) && e.text == a[0]) {
+      *why = "expect-no-msg: the message \"" + a[0] + "\" was shown";
+      return false;
+    }
+  }
+  return true;
+}
+
+// Consumes printed report lines up to the first that reads TEXT.
+bool ExpectReport(Run& run, const Words& a, std::string* why) {
+  const auto& events = run.platform.Events();
+  for (std::size_t i = run.reportCursor; i < events.size(); ++i) {
+    if (events[i].kind == PlatformEvent::kReport && events[i].text == a[0]) {
+      run.reportCursor = i + 1;
+      return true;
+    }
+  }
+  *why = "expect-report: no report line \"" + a[0] + "\" was shown";
+  return false;
+}
+
+// A dialog of the menus, opened as its menu entry opens it.
+bool Open(Run&, const Words& a, std::string* why) { return OpenMenuDialog(a[0], why); }
 
 bool Answer(Run& run, const Words& a, std::string*) {
   for (const auto& answer : a) run.platform.QueueAnswer(answer);
@@ -218,6 +256,25 @@ bool Start(Run& run, const Words& a, std::string* why) {
     run.platform.QueueDialog("startgame", std::move(actions));
   }
   StartCommand();
+  return true;
+}
+
+// The Random Scenario dialog with its fields set as given, then Start
+// Random Game; a made map is laid out and its first turn begins, as from the
+// File menu. With no settings nothing is queued, so that "on random" actions
+// (or the dialog's default, Start) are taken. A refused start fails the
+// script with the dialog's message.
+bool RandomGame(Run& run, const Words& a, std::string* why) {
+  std::vector<DialogAction> actions;
+  if (!RandomDialogActions(a, &actions, why)) {
+    *why = "random: " + *why;
+    return false;
+  }
+  if (!actions.empty()) {
+    actions.push_back({"start", ""});
+    run.platform.QueueDialog("random", std::move(actions));
+  }
+  dostartgame();
   return true;
 }
 
@@ -392,6 +449,83 @@ bool ProgramDirCommand(Run& run, const Words& a, std::string* why) {
   return true;
 }
 
+// The editor's painting tools: "paint regime N" types N in the regime box
+// and presses the regime button (an empty N shows the game's message),
+// "paint land ENTRY" selects the landscape list's row ENTRY (its number or
+// its text) and presses the type button, "paint urban" presses the urban
+// button for the selected hex (the questions take queued answers), "paint
+// end" ends the brush. A button whose brush is on already is pressed twice,
+// so that the new choice takes over. "paint drag X Y" drags the held
+// button onto a hex, "paint release" lets it go, "paint undo" and "paint
+// redo" are Ctrl+Z and Ctrl+Y; undo or redo with nothing to take back fails.
+bool Paint(Run&, const Words& a, std::string* why) {
+  const std::string& what = a[0];
+  auto arity = [&](std::size_t n, const char* usage) {
+    if (a.size() == n) return true;
+    *why = std::string("usage: ") + usage;
+    return false;
+  };
+  if (what == "regime") {
+    if (a.size() > 2) return arity(2, "paint regime [N]");
+    if (mf::UI.Order.RegimePaint > 0) PressRegimePaint();
+    SetPaintRegimeBox(a.size() == 2 ? a[1] : std::string());
+    PressRegimePaint();
+    return true;
+  }
+  if (what == "land") {
+    if (!arity(2, "paint land ENTRY")) return false;
+    int row = -1;
+    for (int r = 0; r <= kPaintListRows; ++r)
+      if (a[1] == std::to_string(r) || (!PaintListEntry(r).empty() && a[1] == PaintListEntry(r))) row = r;
+    if (row < 0) {
+      *why = "paint land: \"" + a[1] + "\" is no row of the landscape list (0..16 or an entry's text)";
+      return false;
+    }
+    if (mf::UI.Order.LandscapePaint > 0) PressTypePaint();
+    SelectPaintRow(row);
+    PressTypePaint();
+    return true;
+  }
+  if (what == "urban") {
+    if (!arity(1, "paint urban")) return false;
+    PressUrban();
+    return true;
+  }
+  if (what == "end") {
+    if (!arity(1, "paint end")) return false;
+    EndPainting();
+    return true;
+  }
+  if (what == "drag") {
+    long x = 0, y = 0;
+    if (!arity(3, "paint drag X Y")) return false;
+    if (!WholeNumberIn(a[1], 0, 999, &x) || !WholeNumberIn(a[2], 0, 999, &y)) {
+      *why = "paint drag: \"" + a[1] + " " + a[2] + "\" is not a hex (two whole numbers)";
+      return false;
+    }
+    if (PaintStrokeOpen() && ValidHex(static_cast<int>(x), static_cast<int>(y))) {
+      SelectHex(static_cast<int>(x), static_cast<int>(y));
+      PaintDragTo(static_cast<int>(x), static_cast<int>(y));
+    }
+    return true;
+  }
+  if (what == "release") {
+    if (!arity(1, "paint release")) return false;
+    EndPaintStroke();
+    return true;
+  }
+  if (what == "undo" || what == "redo") {
+    if (!arity(1, "paint undo|redo")) return false;
+    if (!(what == "undo" ? UndoPaint() : RedoPaint())) {
+      *why = "paint " + what + ": there is no stroke to " + what;
+      return false;
+    }
+    return true;
+  }
+  *why = "paint: \"" + what + "\" is not one of regime, land, urban, end, drag, release, undo, redo";
+  return false;
+}
+
 // The script's commands. A command without a handler belongs to a part of the
 // game that is not built yet: it fails loudly, so that a script never passes
 // by skipping what it asked for.
@@ -406,6 +540,9 @@ const Command kCommands[] = {
     {"print", 1, 1, "print FIELD", &Print},
     {"expect", 2, 2, "expect FIELD VALUE", &Expect},
     {"expect-msg", 1, 1, "expect-msg \"TEXT\"", &ExpectMsg},
+    {"expect-no-msg", 1, 1, "expect-no-msg \"TEXT\"", &ExpectNoMsg},
+    {"expect-report", 1, 1, "expect-report \"TEXT\"", &ExpectReport},
+    {"open", 1, 1, "open NAME", &Open},
     {"answer", 1, -1, "answer A [A ...]", &Answer},
     {"on", 1, -1, "on DIALOG ACTION ...", &On},
     {"tick", 0, 1, "tick [N]", &Tick},
@@ -413,6 +550,11 @@ const Command kCommands[] = {
     {"start", 0, -1,
      "start [fog=0/1] [exploration=0/1] [pbem=0/1] [passwords=0/1] [aibonus=0/1] [ai=1,0,..] [email=a,b,..]",
      &Start},
+    {"random", 0, -1,
+     "random [size=N] [land=L] [regimes=R] [humans=1,0,..] [email=a,b,..] [seed=S] [realstart=0/1] [fog=0/1] "
+     "[exploration=0/1] [pbem=0/1] [passwords=0/1] [aibonus=0/1] [allied=0/1]",
+     &RandomGame},
+    {"paint", 1, 3, "paint regime [N] | land ENTRY | urban | end | drag X Y | release | undo | redo", &Paint},
     {"endturn", 0, 0, "endturn", &EndTurn},
     {"surrender", 0, 0, "surrender", &Surrender},
     {"click", 2, 3, "click X Y [right]", &Click},
@@ -435,10 +577,6 @@ bool RunLine(Run& run, const std::string& line, std::string* why) {
     const int n = static_cast<int>(args.size());
     if (n < c.minArgs || (c.maxArgs >= 0 && n > c.maxArgs)) {
       *why = "usage: " + std::string(c.usage);
-      return false;
-    }
-    if (!c.run) {
-      *why = "not available yet: " + cmd;
       return false;
     }
     run.platform.lastError.clear();

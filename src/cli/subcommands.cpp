@@ -10,6 +10,8 @@
 #include "model/reset.h"
 #include "play.h"
 #include "platform/scripted_platform.h"
+#include "control/random_flow.h"
+#include "random/random_dialog.h"
 #include "script_runner.h"
 #include "session.h"
 
@@ -31,7 +33,9 @@ constexpr const char* kUsage =
     "                               plays N rounds with the computer on every side\n"
     "  balance FILE --games N --turns T [--jobs J] [--csv OUT.csv]\n"
     "                               how each regime fares over N computer games\n"
-    "  random ... -o FILE\n"
+    "  random [--size N] [--land L] [--regimes R] [--humans 1,0,..] [--email a,b,..] [--seed S]\n"
+    "         [--real-start] [--fog 0/1] [--exploration 0/1] [--pbem 0/1] [--passwords 0/1]\n"
+    "         [--aibonus] [--allied] -o FILE   a random scenario, saved before its first turn\n"
     "  compile SOURCE -o FILE       a scenario from its readable source (see docs/content-format.md)\n";
 
 // Splits the words into positional ones and "-o FILE"; false with a reason
@@ -245,9 +249,72 @@ int RunCommand(const Args& args, std::ostream& out, std::ostream& err) {
   return RunScriptFile(args[0], out, err);
 }
 
-int RandomCommand(const Args&, std::ostream&, std::ostream& err) {
-  err << "not available yet: random\n";
-  return 1;
+int RandomCommand(const Args& args, std::ostream& out, std::ostream& err) {
+  // Options with a value, as the dialog's keys; the three switches need none.
+  static const std::pair<const char*, const char*> kValued[] = {
+      {"--size", "size"},   {"--land", "land"},           {"--regimes", "regimes"}, {"--humans", "humans"},
+      {"--email", "email"}, {"--seed", "seed"},           {"--fog", "fog"},         {"--exploration", "exploration"},
+      {"--pbem", "pbem"},   {"--passwords", "passwords"}};
+  static const std::pair<const char*, const char*> kSwitches[] = {
+      {"--real-start", "realstart=1"}, {"--aibonus", "aibonus=1"}, {"--allied", "allied=1"}};
+  std::vector<std::string> words;
+  std::string output;
+  for (std::size_t i = 0; i < args.size(); ++i) {
+    const std::string& a = args[i];
+    const char* key = a == "-o" ? "-o" : nullptr;
+    for (const auto& [opt, k] : kValued)
+      if (a == opt) key = k;
+    const char* word = nullptr;
+    for (const auto& [opt, w] : kSwitches)
+      if (a == opt) word = w;
+    if (word != nullptr) {
+      words.push_back(word);
+      continue;
+    }
+    if (key == nullptr) {
+      err << "random: unknown option " << a << "\n";
+      return 1;
+    }
+    if (i + 1 >= args.size()) {
+      err << "random: " << a << " needs a value\n";
+      return 1;
+    }
+    const std::string& value = args[++i];
+    if (a == "-o") {
+      output = value;
+    } else {
+      words.push_back(std::string(key) + "=" + value);
+    }
+  }
+  if (output.empty()) {
+    err << "usage: marrowfield-cli random [options] -o FILE\n";
+    return 1;
+  }
+  std::vector<DialogAction> actions;
+  std::string why;
+  if (!RandomDialogActions(words, &actions, &why)) {
+    err << "random: " << why << "\n";
+    return 1;
+  }
+  actions.push_back({"start", ""});
+  Printing printing(out);
+  StartFresh();
+  printing.platform.QueueDialog("random", std::move(actions));
+  std::string refusal;
+  if (!MakeRandomScenario(&refusal)) {
+    err << (refusal.empty() ? std::string("random: no map was made") : refusal) << "\n";
+    return 1;
+  }
+  if (!printing.platform.lastError.empty()) {
+    err << "random: " << printing.platform.lastError << "\n";
+    return 1;
+  }
+  setup();
+  if (!WriteFile(output)) {
+    err << "random: cannot write " << output << "\n";
+    return 1;
+  }
+  return 0;
 }
 
 int CliMain(const Args& argv, std::ostream& out, std::ostream& err) {

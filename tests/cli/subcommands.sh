@@ -112,8 +112,24 @@ if "$cli" scramble scenario.mf1 2> err.txt; then fail "scramble of a scrambled f
 [ "$(cat err.txt)" = "scramble: scenario.mf1 is already scrambled" ] || fail "wrong refusal: $(cat err.txt)"
 
 # Parts of the game that are not built yet say so.
-if "$cli" random -o r.mf1 2> err.txt; then fail "random succeeded"; fi
-[ "$(cat err.txt)" = "not available yet: random" ] || fail "wrong random message: $(cat err.txt)"
+# A random scenario: the same seed twice gives the same bytes, another seed
+# other bytes, and a refusal of the dialog is its message and exit code 1.
+"$cli" random --seed 5 --size 30 --land 50 --regimes 3 -o r1.mf1 > out.txt || fail "random failed"
+"$cli" random --seed 5 --size 30 --land 50 --regimes 3 -o r2.mf1 > out.txt || fail "random failed"
+cmp r1.mf1 r2.mf1 || fail "two random maps of seed 5 differ"
+"$cli" random --seed 6 --size 30 --land 50 --regimes 3 -o r3.mf1 > out.txt || fail "random failed"
+if cmp -s r1.mf1 r3.mf1; then fail "seeds 5 and 6 gave the same map"; fi
+"$cli" dump r1.mf1 > dump.txt || fail "dump of a random map failed"
+grep -qx "Game.MapW = 30" dump.txt || fail "the random map is not 30 wide"
+grep -qx "Game.RegimeCount = 3" dump.txt || fail "the random map has not 3 regimes"
+grep -qx "Game.Turn = 0" dump.txt || fail "the random map was saved after its start"
+if "$cli" random --size 9 -o r4.mf1 2> err.txt > out.txt; then fail "random of size 9 succeeded"; fi
+[ "$(cat err.txt)" = "Map size between 10-100" ] || fail "wrong random refusal: $(cat err.txt)"
+[ ! -e r4.mf1 ] || fail "a refused random map was saved"
+if "$cli" random --humans 0,0 --regimes 2 -o r4.mf1 2> err.txt > out.txt; then fail "random without humans succeeded"; fi
+[ "$(cat err.txt)" = "You must at least select 1 human player." ] || fail "wrong random refusal: $(cat err.txt)"
+if "$cli" random --frob -o r4.mf1 2> err.txt; then fail "random with an unknown option succeeded"; fi
+[ "$(cat err.txt)" = "random: unknown option --frob" ] || fail "wrong message: $(cat err.txt)"
 # A script whose check fails.
 printf 'new 12 10\nexpect Game.MapW 13\n' > failing.mfs
 if "$cli" run failing.mfs > out.txt 2> err.txt; then fail "a failing script exited 0"; fi

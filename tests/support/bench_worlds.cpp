@@ -157,4 +157,84 @@ void TurnStartEconomy() {
   ClearFlood();
 }
 
+namespace {
+constexpr int kRegimes = 10;
+constexpr int kTypes = 100;
+
+}  // namespace
+
+void BuildFullScenario() {
+  ZeroAllTables();
+  FillEngineVarLabels();
+  SetEngineVarDefaults();
+  MakeItSo(true, "100", "100");
+  Game.BookVarCount = kBookVarCount;
+  Game.Turn = 12;
+  Game.CurRegime = 3;
+  Game.ScenarioStory = "A long war.\r\nTen nations.\r\nOne map.";
+  std::mt19937 gen(42);
+  auto pick = [&gen](int lo, int hi) { return std::uniform_int_distribution<int>(lo, hi)(gen); };
+
+  Game.RegimeCount = kRegimes;
+  for (int r = 1; r <= kRegimes; ++r) {
+    SetNewRegimeDefaults(r);
+    Regime[r].Name = "Regime " + std::to_string(r);
+    Regime[r].PP = pick(0, 500);
+    Regime[r].Intro = "Briefing of regime " + std::to_string(r) + ".\r\nHold the line.";
+    for (int b = 1; b <= kRegimes; ++b) Dip[r][b].Cost = 999;
+    for (int n = 1; n <= kNewsCap; ++n) {
+      News[r][n] = NewsRec{101, "Battle report " + std::to_string(n) + " of regime " + std::to_string(r),
+                           static_cast<Short>(pick(1, 100)), static_cast<Short>(pick(1, 100)),
+                           static_cast<Short>(pick(1, 10))};
+    }
+    for (int s = 1; s <= 5; ++s) {
+      for (int k = 1; k <= 20; ++k) {
+        Shq[r][s].StockType[k] = k;
+        Shq[r][s].StockQty[k] = pick(0, 200);
+      }
+    }
+  }
+  Game.PeopleCount = 5;
+  for (int p = 1; p <= 5; ++p) {
+    People[p].Name = "People " + std::to_string(p);
+    for (int n = 1; n <= kPeopleNames; ++n) {
+      People[p].FirstName[n] = "Förname" + std::to_string(n);
+      People[p].LastName[n] = "Lastname" + std::to_string(n);
+    }
+  }
+  Game.TypeCount = kTypes;
+  for (int t = 1; t <= kTypes; ++t) {
+    Type[t].Name = "Type " + std::to_string(t);
+    Type[t].Class = 1 + t % 4;
+    for (int a = 1; a <= kTypeAttrs; ++a) Type[t].Attr[a] = pick(1, 100);
+  }
+  for (int x = 1; x <= 100; ++x) {
+    for (int y = 1; y <= 100; ++y) {
+      HexRec& h = Hex[x][y];
+      h.Land = pick(1, 6);
+      h.Owner = pick(0, kRegimes);
+      for (int r = 1; r <= kRegimes; ++r) h.Seen[r] = static_cast<Short>(pick(0, 1));
+      if (pick(0, 20) == 0) {
+        h.Pop = pick(500, 8000);
+        h.UrbanName = "Town " + std::to_string(x) + "-" + std::to_string(y);
+      }
+    }
+  }
+  Game.UnitCount = kUnitCap;
+  for (int u = 1; u <= kUnitCap; ++u) {
+    UnitRec& un = Unit[u];
+    un.Name = "Unit " + std::to_string(u);
+    un.Regime = 1 + u % kRegimes;
+    un.InfType = pick(1, kTypes);
+    un.InfQty = pick(1, 20);
+    un.Readiness = pick(0, 100);
+    un.Experience = 25;
+    // Units stand where they fit; a hex holds three.
+    const int cell = (u - 1) / 3;
+    Hex[1 + cell % 100][1 + cell / 100].Unit[1 + (u - 1) % 3] = u;
+  }
+  Game.EventCount = 50;
+  for (int e = 1; e <= 50; ++e) Event[e].Story = "Event " + std::to_string(e) + "\r\nwith a story.";
+}
+
 }  // namespace mf::bench

@@ -16,4 +16,9 @@ void BuildTurnWorld();
 // recovery and towns, transport and the clearing of the flood.
 void TurnStartEconomy();
 
+// The largest scenario file: 100 x 100 hexes, 10 regimes with their news,
+// stocks and briefings, 100 types, 2000 units, 50 events. Clears the game
+// first; the same scenario every time.
+void BuildFullScenario();
+
 }  // namespace mf::bench

@@ -8,6 +8,12 @@
 #include "ai/analysis_log.h"
 #include "ai/areas.h"
 #include "ai/fronts.h"
+#include "ai/headquarters.h"
+#include "ai/logistics.h"
+#include "ai/operations.h"
+#include "ai/production.h"
+#include "ai/reshape.h"
+#include "ai/stock.h"
 #include "model/game_state.h"
 #include "model/rnd.h"
 #include "orders/order_buttons.h"
@@ -27,8 +33,12 @@ void Phase(int step) {
   RefreshButtons();
 }
 
-// Lets the window paint what the turn has done so far.
-void YieldToWindow() { Plat().YieldEvents(); }
+// Lets the window paint what the turn has done so far. False when the
+// player has meanwhile quit the program: the turn stops after this stage.
+bool YieldToWindow() {
+  Plat().YieldEvents();
+  return !AI.StopRequested;
+}
 
 // Whatever a person left half done, the computer starts from clean order
 // registers: its stages set what they need and nothing else.
@@ -71,7 +81,7 @@ void AITurn() {
   AILog("**************");
   Phase(2);
   UI.HelpText = "AI FOR " + Regime[r].Name;
-  YieldToWindow();
+  if (!YieldToWindow()) return;
 
   // 3. to 5. The analysis: areas, strengths, fronts, who serves where.
   Phase(3);
@@ -81,40 +91,59 @@ void AITurn() {
   AIAreaStrength();
   AIFindFronts();
   AIAssignFronts();
-  YieldToWindow();
+  if (!YieldToWindow()) return;
   Phase(5);
   AIMoveThqFront();
 
   // 6. Fighting and moving, front by front.
   Phase(6);
-  YieldToWindow();
+  AIOperations();
+  if (!YieldToWindow()) return;
 
   // 7. Reshaping units after the fighting.
   Phase(7);
-  YieldToWindow();
+  AIUnitSplitMerge();
+  AIMergeNaval();
+  if (!YieldToWindow()) return;
 
   // 8. to 12. Which SHQ serves which area and town, research, production.
   Phase(8);
+  AIAreasToShq();
   Phase(9);
+  AIResearch();
   Phase(10);
+  AITownsToShq();
   Phase(11);
+  AIProduction();
   Phase(12);
+  AIAreasToShq();
 
   // 13. New headquarters.
   Phase(13);
-  YieldToWindow();
+  AINewShq();
+  AINewThq();
+  if (!YieldToWindow()) return;
 
   // 14. and 15. Stock handed out, ships and aircraft built up.
   Phase(14);
+  AIStockInf();
+  AIStockArt();
+  AIStockMob();
+  AIStockArm();
   Phase(15);
+  AIBuildNaval();
+  AIBuildAir();
+  AIBuildAir2();
 
   // 16. The driver's only draw: in about three turns of ten, SHQs with stock
   // to spare hand it on to the SHQ that needs it most.
   Phase(16);
-  [[maybe_unused]] const bool stockToShq = Rnd() < 0.3f;
+  if (Rnd() < 0.3f) AIShqToShq();
 
   // 17. New land units and their bosses.
   Phase(17);
+  AINewLandUnits();
+  AIAssignBoss();
 
   // 18. The memory of the turn.
   Phase(18);

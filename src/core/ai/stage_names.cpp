@@ -2,6 +2,12 @@
 
 #include "ai/areas.h"
 #include "ai/fronts.h"
+#include "ai/headquarters.h"
+#include "ai/logistics.h"
+#include "ai/operations.h"
+#include "ai/production.h"
+#include "ai/reshape.h"
+#include "ai/stock.h"
 
 namespace mf {
 namespace {
@@ -19,6 +25,25 @@ const Stage kStages[] = {
     {"AIFindFronts", &AIFindFronts},
     {"AIAssignFronts", &AIAssignFronts},
     {"AIMoveThqFront", &AIMoveThqFront},
+    {"AIOperations", &AIOperations},
+    {"AIUnitSplitMerge", &AIUnitSplitMerge},
+    {"AIMergeNaval", &AIMergeNaval},
+    {"AIAreasToShq", &AIAreasToShq},
+    {"AIResearch", &AIResearch},
+    {"AITownsToShq", &AITownsToShq},
+    {"AIProduction", &AIProduction},
+    {"AINewShq", &AINewShq},
+    {"AINewThq", &AINewThq},
+    {"AIStockInf", &AIStockInf},
+    {"AIStockArt", &AIStockArt},
+    {"AIStockMob", &AIStockMob},
+    {"AIStockArm", &AIStockArm},
+    {"AIBuildNaval", &AIBuildNaval},
+    {"AIBuildAir", &AIBuildAir},
+    {"AIBuildAir2", &AIBuildAir2},
+    {"AIShqToShq", &AIShqToShq},
+    {"AINewLandUnits", &AINewLandUnits},
+    {"AIAssignBoss", &AIAssignBoss},
 };
 
 }  // namespace

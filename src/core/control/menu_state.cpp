@@ -34,6 +34,7 @@ MenuState GetMenuState() {
   const bool free = !UI.BusyPointer;
   m.newScenario = free;
   m.clearMap = free;
+  m.randomScenario = free;
   m.load = free;
   m.save = free;
   m.import = free;

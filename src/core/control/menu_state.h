@@ -11,6 +11,7 @@ struct MenuState {
   // File menu.
   bool newScenario = false;
   bool clearMap = false;
+  bool randomScenario = false;  // the Random Scenario dialog
   bool load = false;
   bool save = false;
   bool import = false;

@@ -4,6 +4,8 @@
 // saved in).
 #include "control/scenario_flow.h"
 
+#include <fstream>
+#include <iterator>
 #include <string>
 #include <utility>
 
@@ -122,6 +124,20 @@ bool ImportFile(const std::string& path) {
   UI.EditMode = 1;
   const long version = ParseScenario(bytes, true);
   if (!scrambled) LeaveScrambled(path, std::move(bytes));
+  RepairEngineVarsAfterLoad(version, true);
+  RecomputeCountersAndSprites();
+  return true;
+}
+
+bool ImportRulesOf(const std::string& path) {
+  std::ifstream in(path, std::ios::binary);
+  if (!in) return false;
+  std::string bytes((std::istreambuf_iterator<char>(in)), std::istreambuf_iterator<char>());
+  if (in.bad()) return false;
+  // A scrambled file begins with a byte of the top half; a plain one with a digit.
+  if (!bytes.empty() && static_cast<unsigned char>(bytes[0]) >= 0x80u)
+    for (char& c : bytes) c = static_cast<char>(static_cast<unsigned char>(c) ^ 0x80u);
+  const long version = ParseScenario(bytes, true);
   RepairEngineVarsAfterLoad(version, true);
   RecomputeCountersAndSprites();
   return true;

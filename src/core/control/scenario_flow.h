@@ -13,6 +13,10 @@ bool ReadFile(const std::string& path);
 bool doGoLoad(const std::string& path);
 // Takes the rule set of a file into the current game.
 bool ImportFile(const std::string& path);
+// The same rule set taken from a file that stays as it is on disk (it may
+// lie in a read-only program folder, or be read by two programs at once):
+// no messages, no transform. False when the file cannot be read.
+bool ImportRulesOf(const std::string& path);
 
 // The menu commands: they ask the platform for a path, then run the flow
 // with its messages ("Saved", "Save canceled", "Load canceled", ...).

@@ -19,6 +19,7 @@
 #include "engine/supply.h"
 #include "model/arith.h"
 #include "model/game_state.h"
+#include "model/hex_geometry.h"
 #include "model/reset.h"
 #include "orders/flood.h"
 #include "orders/movement.h"
@@ -329,7 +330,9 @@ void NextTurn() {
     SightPass();
     if (Game.FogOfWar == 0) Game.ShowAIMoves = kTrue;
     if (Game.FogOfWar == 1) Game.ShowAIMoves = kFalse;
-    UI.MapShown = false;
+    // Without fog the players watch the computer's moves on the map; with
+    // fog they see nothing of its turn. Either way the map takes no clicks.
+    UI.MapShown = Game.ShowAIMoves != kFalse;
     SetBusyPointer(true);
     Step("AITurn");
     AITurn();
@@ -451,6 +454,10 @@ void StartCommand() {
     Game.FogOfWar = 0;
     return;
   }
+  BeginFirstTurn();
+}
+
+void BeginFirstTurn() {
   UI.EditMode = 0;
   UI.ShowEditorPanel = false;
   UI.MapControlsShown = false;

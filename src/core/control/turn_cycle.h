@@ -18,6 +18,9 @@ void mendpublic();
 void EndTurnCommand();    // asks "Are you sure you want to end your turn?"
 void SurrenderCommand();
 void StartCommand();      // the Start Game dialog, then the first turn
+// Leaves the editor and begins turn 1 with regime 1, as a game that has
+// passed its start dialog does.
+void BeginFirstTurn();
 
 // One tick of the repeating timer of the main window.
 void TimerTick();

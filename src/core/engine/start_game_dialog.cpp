@@ -4,6 +4,7 @@
 
 #include "model/arith.h"
 #include "model/game_state.h"
+#include "platform/dialog_values.h"
 
 namespace mf {
 namespace {
@@ -11,29 +12,6 @@ namespace {
 int RowsInUse() {
   if (Game.RegimeCount < 0) return 0;
   return Game.RegimeCount > kStartRows ? kStartRows : static_cast<int>(Game.RegimeCount);
-}
-
-// A box value of a script: "1" or "0".
-bool BoxValue(const std::string& value, bool* on, std::string* why) {
-  if (value == "1" || value == "0") {
-    *on = value == "1";
-    return true;
-  }
-  *why = "a box takes 0 or 1, not \"" + value + "\"";
-  return false;
-}
-
-// Splits "a,b,,c" at the commas, keeping empty entries.
-std::vector<std::string> SplitCommas(const std::string& text) {
-  std::vector<std::string> parts;
-  std::string::size_type start = 0;
-  while (true) {
-    const auto comma = text.find(',', start);
-    parts.push_back(text.substr(start, comma == std::string::npos ? std::string::npos : comma - start));
-    if (comma == std::string::npos) break;
-    start = comma + 1;
-  }
-  return parts;
 }
 
 }  // namespace

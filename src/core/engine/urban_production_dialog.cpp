@@ -4,6 +4,7 @@
 
 #include "engine/production.h"
 #include "engine/research.h"
+#include "engine/type_info_dialog.h"
 #include "model/arith.h"
 #include "model/game_state.h"
 #include "model/hex_geometry.h"
@@ -213,10 +214,8 @@ bool UrbanProductionDialog::ShowInfo(std::string* why) {
     *why = "no unit type is selected";
     return false;
   }
-  // The Info dialog of a unit type belongs to the status reports, which
-  // this program does not have yet.
-  *why = "the Info dialog of unit types is not available yet";
-  return false;
+  doinfo(typeOfRow[typeRow]);
+  return true;
 }
 
 bool UrbanProductionDialog::Close(std::string* why) {

@@ -25,9 +25,6 @@ class UrbanProductionDialog : public HumbleDialog {
   static constexpr const char* kProducePP = "Produce PP instead";
   static constexpr const char* kProduceSupply = "Produce Supply";
   static constexpr const char* kShowInfo = "Show Info on selected unit type";
-  // Whether the Info dialog of unit types exists yet; until it does the
-  // window shows no button for it.
-  static constexpr bool kInfoAvailable = false;
   static constexpr const char* kClose = "Close";
   // Width the type's name is padded to in a row of the production list.
   static constexpr int kNameWidth = 20;

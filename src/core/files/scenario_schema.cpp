@@ -118,6 +118,11 @@ bool FieldRecOf(const std::string& name, FieldRec* rec) {
 std::string FieldName::Format() const {
   std::string s;
   s.reserve(32);
+  AppendTo(s);
+  return s;
+}
+
+void FieldName::AppendTo(std::string& s) const {
   s += RecName(rec);
   char buf[16];
   auto number = [&s, &buf](int v) {
@@ -128,7 +133,7 @@ std::string FieldName::Format() const {
     s += '[';
     number(i);
     s += ']';
-    return s;
+    return;
   }
   if (rec != FieldRec::kGame) {
     s += '[';
@@ -146,7 +151,6 @@ std::string FieldName::Format() const {
     number(k);
     s += ']';
   }
-  return s;
 }
 
 std::vector<ListedField> ListScenarioFields() {

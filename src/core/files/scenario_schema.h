@@ -53,6 +53,8 @@ struct FieldName {
   FieldRole role = FieldRole::kPlain;
 
   std::string Format() const;
+  // Appends the same name to a text.
+  void AppendTo(std::string& out) const;
 };
 
 // What a reader does with a number before it stores it. A file may hold

@@ -293,6 +293,7 @@ struct UIRec {
   bool PanelDirty = false;       // the side panel must be rebuilt for the selected hex
   std::string WindowTitle;       // "" shows the program's name
   bool AILogShown = false;       // F11: the computer player's analysis log under the map
+  Long StatusReport = 0;         // report the Status dialog showed last, 1..3; 0 none yet
 };
 
 

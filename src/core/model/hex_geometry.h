@@ -43,6 +43,12 @@ bool HexOffWindow(PixelXY c);
 // zigzag bands at a row's upper and lower edge both are 0, and a coordinate
 // beyond the map (or below 0, for points left of or above the picture) is 0.
 HexXY PixelToHex(int px, int py, int scrollX, int scrollY);
+// Scrolls the map so that hex (x, y) stands in the middle of the view: 10
+// hexes from the left and 6 from the top of the classic 958 x 448 window,
+// correspondingly more in a larger one; held inside the scroll ranges. Asks
+// for the whole map to be redrawn when the view moved. The window, the turn
+// cycle and the computer player's watched moves all centre through it.
+void CenterMap(int x, int y);
 // Size of the map picture for the current Game.MapW, Game.MapH.
 int MapPictureW();
 int MapPictureH();

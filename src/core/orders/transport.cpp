@@ -86,8 +86,17 @@ void Destroy(int x, int y, int unit) {
   Unit[unit].Regime = 0;
 }
 
-// The battle of a formation that comes ashore or out of the sky: it fights
-// alone, from no side, against the stack on (tx, ty).
+// The wing pays the movement of its flight, down to 0.
+void PayFlight(int wing, long cost) {
+  const long mp = Unit[wing].MP - cost;
+  Unit[wing].MP = static_cast<Long>(mp < 0 ? 0 : mp);
+}
+
+// The share of the transport aircraft that came through.
+double Surviving(long before, long after) { return before > 0 ? static_cast<double>(after) / before : 0.0; }
+
+}  // namespace
+
 void LandingBattle(int unit, int tx, int ty) {
   const Long ordX = UI.OrdX, ordY = UI.OrdY, ordSlot = UI.OrdSlot;
   const Long landing = UI.Order.LandingOrder;
@@ -116,17 +125,6 @@ void LandingBattle(int unit, int tx, int ty) {
   UI.OrdSlot = ordSlot;
   UI.Order.LandingOrder = landing;
 }
-
-// The wing pays the movement of its flight, down to 0.
-void PayFlight(int wing, long cost) {
-  const long mp = Unit[wing].MP - cost;
-  Unit[wing].MP = static_cast<Long>(mp < 0 ? 0 : mp);
-}
-
-// The share of the transport aircraft that came through.
-double Surviving(long before, long after) { return before > 0 ? static_cast<double>(after) / before : 0.0; }
-
-}  // namespace
 
 long UnitLoadWeight(int unit) {
   if (!ValidUnit(unit)) return 0;

@@ -34,6 +34,12 @@ long UnitLoadWeight(int unit);
 // quantity for a land formation, its carriers' for an air wing.
 long ShipCapacity(int ship, int load);
 
+// The battle of a formation that comes ashore or out of the sky, still
+// aboard or in the air: it fights alone, from no side, against the stack on
+// (tx, ty), in the landing form of the battle. The order registers are as
+// they were afterwards.
+void LandingBattle(int unit, int tx, int ty);
+
 // The first free stack slot of hex (x, y), 0 when the hex is full.
 int FirstFreeSlot(int x, int y);
 // Takes `unit` out of the stack of hex (x, y); the stack closes up (the

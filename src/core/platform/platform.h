@@ -5,6 +5,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 namespace mf {
 
@@ -55,6 +56,16 @@ class Platform {
   // One line of the computer player's analysis log, as it is written. The
   // window appends it to its analysis list; the headless program prints it.
   virtual void AnalysisLine(const std::string&) {}
+  // The lines of a report (the Status and Info dialogs) each time one is
+  // filled. A window shows them in the dialog itself and needs nothing here;
+  // the scripted platform records and prints them.
+  virtual void ShowReport(const std::vector<std::string>& lines) { (void)lines; }
+  // The colour picker: true with the chosen colour as 0xRRGGBB in *rgb,
+  // false when the person cancels. Without a picker it is always cancelled.
+  virtual bool PickColor(long* rgb) {
+    (void)rgb;
+    return false;
+  }
 };
 
 // The installed platform. Before anything is installed a scripted platform

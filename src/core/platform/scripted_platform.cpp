@@ -1,5 +1,7 @@
 #include "platform/scripted_platform.h"
 
+#include <cctype>
+
 namespace mf {
 namespace {
 std::string Shown(const std::string& title) { return title.empty() ? kProgramTitle : title; }
@@ -40,6 +42,26 @@ std::string ScriptedPlatform::InputPrompt(const std::string& text, const std::st
 }
 
 void ScriptedPlatform::PlaySound(int slot) { sounds_.push_back(slot); }
+
+void ScriptedPlatform::ShowReport(const std::vector<std::string>& lines) {
+  for (const auto& line : lines) Record({PlatformEvent::kReport, "", line, ""});
+}
+
+bool ScriptedPlatform::PickColor(long* rgb) {
+  std::string answer;
+  if (!answers_.empty()) {
+    answer = answers_.front();
+    answers_.pop_front();
+  }
+  std::string digits = answer;
+  if (!digits.empty() && digits[0] == '#') digits.erase(0, 1);
+  bool ok = digits.size() == 6;
+  for (char c : digits) ok = ok && std::isxdigit(static_cast<unsigned char>(c));
+  Record({PlatformEvent::kColor, "", "colour", ok ? "#" + digits : "cancel"});
+  if (!ok) return false;
+  *rgb = std::stol(digits, nullptr, 16);
+  return true;
+}
 
 // Analysis lines are printed but not kept among the events: a long game
 // writes thousands of them, and the message cursor of a script has no use
@@ -132,6 +154,10 @@ std::string FormatEvent(const PlatformEvent& e) {
       return "SOUND " + e.text;
     case PlatformEvent::kAnalysis:
       return "AI " + e.text;
+    case PlatformEvent::kReport:
+      return "REPORT " + e.text;
+    case PlatformEvent::kColor:
+      return "COLOUR -> " + e.answer;
   }
   return "";
 }

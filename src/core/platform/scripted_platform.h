@@ -15,7 +15,7 @@
 namespace mf {
 
 struct PlatformEvent {
-  enum Kind { kMessage, kQuestion, kPrompt, kFileDialog, kDialogAction, kSound, kAnalysis } kind = kMessage;
+  enum Kind { kMessage, kQuestion, kPrompt, kFileDialog, kDialogAction, kSound, kAnalysis, kReport, kColor } kind = kMessage;
   std::string title;
   std::string text;
   std::string answer;  // "yes"/"no" for questions, the text for prompts, the path for file dialogs
@@ -45,6 +45,12 @@ class ScriptedPlatform : public Platform {
   unsigned TickCount() override { return ticks_ += 10; }
   // Keeps the line (see AnalysisLines) and hands it to the printer.
   void AnalysisLine(const std::string& line) override;
+  // Each line of a report becomes one event, printed as "REPORT <line>".
+  void ShowReport(const std::vector<std::string>& lines) override;
+  // The colour picker takes the next queued answer: a colour as "#rrggbb"
+  // (or six hexadecimal digits), or anything else, "cancel" among them, as
+  // a cancelled picker. With nothing queued it is cancelled.
+  bool PickColor(long* rgb) override;
 
   // Answers for the next message boxes and prompts, in order: "yes", "no",
   // "ok", "cancel", or any text (for prompts). A question with nothing queued

@@ -268,22 +268,5 @@ void DoDrawhex6() {
   Plat().YieldEvents();
 }
 
-void CenterMap(int x, int y) {
-  // The classic map window of 958 x 448 puts the hex 10 columns from the
-  // left and 6 rows from the top; a larger window keeps it in its middle.
-  const Long across = UI.ViewW / (2 * kHexColumnW) - 1;
-  const Long down = UI.ViewH / (2 * kHexRowH) - 1;
-  Long sx = (x - across) * kHexColumnW;
-  Long sy = (y - down) * kHexRowH;
-  if (sx > UI.ScrollMaxX) sx = UI.ScrollMaxX;
-  if (sy > UI.ScrollMaxY) sy = UI.ScrollMaxY;
-  if (sx < 0) sx = 0;
-  if (sy < 0) sy = 0;
-  if (sx != UI.ScrollX || sy != UI.ScrollY) {
-    UI.ScrollX = sx;
-    UI.ScrollY = sy;
-    RequestRedraw(2);
-  }
-}
 
 }  // namespace mf

@@ -33,10 +33,5 @@ void DoDrawhex();
 // Redraws the square of 15 hexes each way around the selection, clamped to
 // the map: the cheap redraw after a move.
 void DoDrawhex6();
-// Scrolls the map so that hex (x, y) stands in the middle of the view: 10
-// hexes from the left and 6 from the top of the classic 958 x 448 window,
-// correspondingly more in a larger one; held inside the scroll ranges. Asks
-// for the whole map to be redrawn when the view moved.
-void CenterMap(int x, int y);
 
 }  // namespace mf

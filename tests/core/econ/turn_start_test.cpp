@@ -82,7 +82,14 @@ TEST_F(TurnStartTest, RedsFirstTurnStart) {
 TEST_F(TurnStartTest, TheComputersTurnStartRunsTheSameEconomy) {
   NextTurn();
   EXPECT_EQ(CheckInvariants(), "");
+  // The computer then plays its turn and may march C off: its readiness is
+  // read as the turn start left it, just before the computer's turn.
+  long readinessAtTurnStart = -1;
+  SetTurnStepWatcher([&](const std::string& step) {
+    if (step == "AITurn") readinessAtTurnStart = Unit[c].Readiness;
+  });
   pubendturn();
+  SetTurnStepWatcher(nullptr);
   ASSERT_EQ(Game.CurRegime, 2);
   EXPECT_EQ(CheckInvariants(), "");
   EXPECT_EQ(Unit[blueShq].GenSupply, 100);
@@ -90,7 +97,7 @@ TEST_F(TurnStartTest, TheComputersTurnStartRunsTheSameEconomy) {
   EXPECT_EQ(Unit[c].SupplyPct, 100);
   EXPECT_EQ(Unit[blueShq].SupplyPct, 99);
   // C: 100 - 10 + 1 + 35, held at 100.
-  EXPECT_EQ(Unit[c].Readiness, 100);
+  EXPECT_EQ(readinessAtTurnStart, 100);
   // Blue's flood replaced Red's under SHQ number 1.
   EXPECT_EQ(Hex[6][5].ShqDist[1], 999);
   EXPECT_EQ(Hex[16][5].ShqDist[1], 2);

@@ -180,11 +180,18 @@ TEST_F(UrbanProductionTest, ClosingGivesATownWithoutDeliveryTheFirstSHQEntry) {
   EXPECT_EQ(Hex[5][5].ProdSHQ, 0);
 }
 
-TEST_F(UrbanProductionTest, TheInfoButtonNeedsTheStatusReports) {
+TEST_F(UrbanProductionTest, TheInfoButtonShowsTheSelectedType) {
+  Type[rifles].Attr[kSoftAttack] = 12;
   UrbanProductionDialog d = Open();
   EXPECT_TRUE(d.infoEnabled);
-  EXPECT_FALSE(d.ShowInfo(&why));
-  EXPECT_EQ(why, "the Info dialog of unit types is not available yet");
+  ASSERT_TRUE(d.ClickTypeRow(0, &why));
+  platform.QueueDialog("info", {{"close", ""}});
+  EXPECT_TRUE(d.ShowInfo(&why)) << why;
+  std::vector<std::string> report;
+  for (const auto& e : platform.Events())
+    if (e.kind == PlatformEvent::kReport) report.push_back(e.text);
+  EXPECT_EQ(report, (std::vector<std::string>{"Rifles (100)", "INFANTRY", "Soft Attack = 12"}));
+  EXPECT_TRUE(d.IsOpen());
   EXPECT_STREQ(UrbanProductionDialog::kShowInfo, "Show Info on selected unit type");
 }
 

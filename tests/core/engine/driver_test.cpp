@@ -314,7 +314,7 @@ TEST_F(DriverTest, OutsideACampaignAFileEventDoesNotStopTheTurnStart) {
 
 TEST_F(DriverTest, AComputerRegimePlaysItsTurnInsideTheDriver) {
   Regime[1].AI = 1;
-  bool busyInAI = false, mapInAI = true;
+  bool busyInAI = false, mapInAI = false;
   onStep = [&](const std::string& step) {
     if (step == "AITurn") {
       busyInAI = UI.BusyPointer;
@@ -328,7 +328,8 @@ TEST_F(DriverTest, AComputerRegimePlaysItsTurnInsideTheDriver) {
                                        "ClearFlood",    "SightPass",  "AITurn"};
   EXPECT_EQ(steps, order);
   EXPECT_TRUE(busyInAI);
-  EXPECT_FALSE(mapInAI);
+  // Without fog the players watch the computer's moves on the map.
+  EXPECT_TRUE(mapInAI);
   EXPECT_FALSE(UI.BusyPointer);
   EXPECT_EQ(Game.ShowAIMoves, kTrue);
   EXPECT_EQ(UI.RegimeLabel, "Red (AI)");
@@ -343,6 +344,8 @@ TEST_F(DriverTest, UnderFogOfWarTheComputersMovesAreNotShown) {
   Game.ShowAIMoves = kTrue;
   NextTurn();
   EXPECT_EQ(Game.ShowAIMoves, kFalse);
+  // Nothing of the computer's turn is shown.
+  EXPECT_FALSE(UI.MapShown);
 }
 
 // ---- The turn-start work ---------------------------------------------------------------

@@ -74,6 +74,14 @@ class AshfallCampaign : public CoreTest {
     ASSERT_GT(mover, 0);
     Hex[x][y].Unit[1] = mover;
     Hex[x][y].Owner = 1;
+    // The computer fights back in its turn; the town must hold until the
+    // events of the next game turn see it, so the enemy is worn down to one
+    // piece of infantry a formation, too weak to take it back.
+    for (int u = 1; u <= kUnitCap; ++u) {
+      if (Unit[u].Regime != 2) continue;
+      Unit[u].MP = 0;
+      if (Unit[u].InfQty > 0) Unit[u].InfQty = 1;
+    }
   }
 
   // The file event of the player's victory: the load event waiting for a town.
