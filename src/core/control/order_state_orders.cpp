@@ -1,20 +1,20 @@
-#include "control/order_state.h"
-
+// The start and the cancel of each order: what a press on an order button
+// checks before the order begins, how the order marks its reach on the map,
+// what a press on the map does while the order is under way, and how the
+// cancel button and Esc end it without effect.
 #include <string>
 
 #include "combat/attack.h"
-#include "control/keyboard.h"
-#include "control/selection.h"
-#include "control/turn_cycle.h"
-#include "editor/map_paint.h"
+#include "control/order_state.h"
+#include "control/order_state_steps.h"
 #include "engine/diplomacy.h"
 #include "engine/officers.h"
 #include "engine/production.h"
 #include "engine/research.h"
 #include "engine/supply_flood.h"
-#include "model/arith.h"
 #include "model/game_state.h"
 #include "model/hex_geometry.h"
+#include "model/stack.h"
 #include "orders/command.h"
 #include "orders/entrench.h"
 #include "orders/flood.h"
@@ -22,70 +22,13 @@
 #include "orders/movement.h"
 #include "orders/new_units.h"
 #include "orders/sight.h"
-#include "orders/transfer.h"
 #include "orders/transport.h"
 #include "platform/platform.h"
+#include "platform/text_case.h"
 
 namespace mf {
 
-namespace {
-
-// Sounds of a finished move, by what moved.
-constexpr int kSoundMoveFoot = 11;   // "mov_inf.wav"
-constexpr int kSoundMoveArmour = 12; // "mov_arm.wav"
-constexpr int kSoundRebase = 14;     // "att_bomb.wav"
-constexpr int kSoundMoveShip = 15;   // "mov_ship.wav"
-
-int Cur() { return ValidRegime(static_cast<int>(Game.CurRegime)) ? static_cast<int>(Game.CurRegime) : 0; }
-bool Editing() { return UI.EditMode == 1; }
-
-void Click() {
-  if (UI.SoundOff == 0) Plat().PlaySound(kClickSound);
-}
-void Sound(int slot) {
-  if (UI.SoundOff == 0) Plat().PlaySound(slot);
-}
-void Say(const std::string& text) { Plat().ShowMessage(text, ""); }
-
-// The formation in a stack slot of a hex, 0 for none or bad data.
-int UnitAt(long x, long y, long slot) {
-  if (!ValidHex(static_cast<int>(x), static_cast<int>(y)) || slot < 1 || slot > kStackSlots) return 0;
-  const long u = Hex[x][y].Unit[slot];
-  return ValidUnit(static_cast<int>(u)) ? static_cast<int>(u) : 0;
-}
-int SelectedUnit() { return UnitAt(UI.SelX, UI.SelY, UI.SelSlot); }
-int OriginUnit() { return UnitAt(UI.OrdX, UI.OrdY, UI.OrdSlot); }
-bool SelectionOnMap() { return ValidHex(static_cast<int>(UI.SelX), static_cast<int>(UI.SelY)); }
-HexRec& SelectedHex() { return SelectionOnMap() ? Hex[UI.SelX][UI.SelY] : Hex[0][0]; }
-
-long AttrOf(long type, int attr) { return ValidType(static_cast<int>(type)) ? Type[type].Attr[attr] : 0; }
-
-std::string Upper(std::string s) {
-  for (char& c : s)
-    if (c >= 'a' && c <= 'z') c = static_cast<char>(c - 'a' + 'A');
-  return s;
-}
-
-// What every start does: the origin is the selection, the buttons go off,
-// and the do button takes the order's caption.
-void BeginOrder(const std::string& doCaption) {
-  UI.OrdX = UI.SelX;
-  UI.OrdY = UI.SelY;
-  UI.OrdSlot = UI.SelSlot;
-  DisableButtons();
-  Buttons.doButton.caption = doCaption;
-  Buttons.doButton.enabled = true;
-}
-
-// The common end of an order: buttons for the selection again, do off,
-// the order line hidden, the line of a regime at rest.
-void FinishOrder() {
-  RefreshButtons();
-  Buttons.doButton.enabled = false;
-  Buttons.orderLineShown = false;
-  Buttons.cancel.enabled = false;
-  Helper();
-}
+namespace order_steps {
 
 void EndMoveOrder() {
   UI.Order.SelOrderMove = 0;
@@ -110,37 +53,29 @@ void EndBossOrder() {
   FinishOrder();
 }
 
-// The do button of a change of command: choosing nobody or the formation
-// itself ends the order without a word.
-void BossDo() {
-  const int target = SelectedUnit();
-  if (target == 0 || target == OriginUnit()) {
-    EndBossOrder();
-    return;
-  }
-  doNewBoss();
-}
+}  // namespace order_steps
 
-// The do button of a transfer: no destination, or the source itself, ends it.
-void TransferDo() {
-  const int target = SelectedUnit();
-  if (target == 0 || target == OriginUnit()) {
-    dotransfer2();
-    return;
-  }
-  TransferBetween();
-}
+using namespace order_steps;
 
-void AttackDo() {
-  doAttack();
-  UI.Order.AttackOrder = 0;
-  RefreshButtons();
-  // The attackers' hexes and the target change; the whole map is redrawn
-  // after the fog has been worked out again.
-  SightPass();
-  RequestRedraw(2);
-  UI.PanelDirty = true;
-  FinishOrder();
+namespace {
+
+// Sounds of a finished move, by what moved.
+constexpr int kSoundMoveFoot = 11;   // "mov_inf.wav"
+constexpr int kSoundMoveArmour = 12; // "mov_arm.wav"
+constexpr int kSoundRebase = 14;     // "att_bomb.wav"
+constexpr int kSoundMoveShip = 15;   // "mov_ship.wav"
+
+long AttrOf(long type, int attr) { return ValidType(static_cast<int>(type)) ? Type[type].Attr[attr] : 0; }
+
+
+// No formation is joined to the attack.
+void ClearAttackers() {
+  for (int i = 0; i <= kAttackerCap; ++i) {
+    UI.AttackerX[i] = 0;
+    UI.AttackerY[i] = 0;
+    UI.AttackerSlot[i] = 0;
+  }
+  UI.AttackerCount = 0;
 }
 
 // Where a move order's click lands: the origin ends the order, elsewhere the
@@ -230,6 +165,16 @@ void StartEntrench() {
   Helper();
 }
 
+// The reach of a wing from the order's origin. A wing on board flies from
+// the ship's slot while its reach is worked out.
+void FloodFromWing(int wing) {
+  Long& slot = Hex[UI.OrdX][UI.OrdY].Unit[UI.OrdSlot];
+  const Long held = slot;
+  slot = wing;
+  MoveFlood(false);
+  slot = held;
+}
+
 // Interdiction and strategic bombing start the same way: a wing with 2 MP,
 // flown from its own hex or from the deck of the selected ship.
 void StartAirStrike(bool strategic) {
@@ -241,12 +186,7 @@ void StartAirStrike(bool strategic) {
   } else {
     UI.Order.InterdictOrder = 1;
   }
-  // A wing on board flies from the ship's slot while its reach is worked out.
-  Long& slot = Hex[UI.OrdX][UI.OrdY].Unit[UI.OrdSlot];
-  const Long ship = slot;
-  slot = wing;
-  MoveFlood(false);
-  slot = ship;
+  FloodFromWing(wing);
   Helper();
 }
 
@@ -274,7 +214,7 @@ void AttackButton() {
     return;
   }
   const long regime = Unit[UnitAt(UI.SelX, UI.SelY, 1)].Regime;
-  if (ValidRegime(static_cast<int>(regime)) && Dip[Cur()][regime].Relation == 1) {
+  if (ValidRegime(static_cast<int>(regime)) && Dip[CurrentRegime()][regime].Relation == 1) {
     Say("You cannot attack units from a player you are at peace with");
     return;
   }
@@ -286,12 +226,7 @@ void AttackButton() {
   if (UI.Order.AttackOrder > 0) return;
   BeginOrder("DO ATTACK");
   UI.Order.AttackOrder = 1;
-  for (int i = 0; i <= kAttackerCap; ++i) {
-    UI.AttackerX[i] = 0;
-    UI.AttackerY[i] = 0;
-    UI.AttackerSlot[i] = 0;
-  }
-  UI.AttackerCount = 0;
+  ClearAttackers();
   Helper();
 }
 
@@ -396,11 +331,7 @@ void AirliftButton() {
   AirliftUnit = lifted;
   AirliftDrop = drop;
   UI.Order.AirliftOrder = 1;
-  Long& slot = Hex[UI.OrdX][UI.OrdY].Unit[UI.OrdSlot];
-  const Long held = slot;
-  slot = wing;
-  MoveFlood(false);
-  slot = held;
+  FloodFromWing(wing);
   Helper();
 }
 
@@ -422,33 +353,8 @@ void AirSupplyButton() {
   BeginOrder("DO AIRSUPPLY FROM " + Unit[wing].Name);
   AirSupplyShq = shq;
   UI.Order.AirSupplyOrder = 1;
-  Long& slot = Hex[UI.OrdX][UI.OrdY].Unit[UI.OrdSlot];
-  const Long held = slot;
-  slot = wing;
-  MoveFlood(false);
-  slot = held;
+  FloodFromWing(wing);
   Helper();
-}
-
-void DoButton() {
-  Click();
-  OrderFlags& o = UI.Order;
-  if (o.SelOrderMove > 0) EndMoveOrder();
-  if (o.EntrenchOrder > 0) EndEntrenchOrder();
-  if (o.AttackOrder > 0) AttackDo();
-  if (o.BossOrder > 0) BossDo();
-  if (o.AirSupplyOrder > 0) doAirsupply();
-  if (o.AirliftOrder > 0) doAirlift();
-  if (o.TransferOrder > 0) TransferDo();
-  if (o.LandingOrder > 0) doLanding();
-  if (o.StratBombOrder > 0 || o.InterdictOrder > 0) doAirMission();
-  if (o.LoadOrder > 0) doLoad();
-  if (o.RegimePaint > 0 || o.LandscapePaint > 0) {
-    o.RegimePaint = 0;
-    o.LandscapePaint = 0;
-    RefreshButtons();
-    Buttons.doButton.enabled = false;
-  }
 }
 
 void DoCancel() {
@@ -491,67 +397,11 @@ void DoCancel() {
   }
   if (o.AttackOrder > 0) {
     o.AttackOrder = 0;
-    for (int i = 0; i <= kAttackerCap; ++i) {
-      UI.AttackerX[i] = 0;
-      UI.AttackerY[i] = 0;
-      UI.AttackerSlot[i] = 0;
-    }
-    UI.AttackerCount = 0;
+    ClearAttackers();
     ReturnSelectionToOrigin();
     RequestRedraw(2);
     FinishOrder();
   }
-}
-
-void NextTurnButton() { EndTurnCommand(); }
-
-bool PressOrderButton(int id) {
-  if (id < 0 || id >= kOrderButtonCount) return false;
-  RefreshButtons();
-  if (!Buttons.order[id].enabled) return false;
-  switch (id) {
-    case kBtnMove: MoveButton(); break;
-    case kBtnAttack: AttackButton(); break;
-    case kBtnProduction: ProductionButton(); break;
-    case kBtnCommand: CommandButton(); break;
-    case kBtnNewUnit: NewUnitButton(); break;
-    case kBtnTransfer: TransferButton(); break;
-    case kBtnOfficerPool: OfficerPoolButton(); break;
-    case kBtnResearch: ResearchButton(); break;
-    case kBtnDiplomatics: DiplomaticsButton(); break;
-    case kBtnDisband: DisbandButton(); break;
-    case kBtnEntrench: EntrenchButton(); break;
-    case kBtnLoad: LoadButton(); break;
-    case kBtnUnload: UnloadButton(); break;
-    case kBtnInterdict: InterdictButton(); break;
-    case kBtnStrategic: StrategicButton(); break;
-    case kBtnAirlift: AirliftButton(); break;
-    case kBtnAirSupply: AirSupplyButton(); break;
-    default: return false;
-  }
-  return true;
-}
-
-bool OrderKey(int keyCode) {
-  const OrderFlags& o = UI.Order;
-  if (keyCode == kKeyEnter || keyCode == kKeySpace) {
-    // Airlift and air supply are finished with the button only.
-    const bool confirmable = o.SelOrderMove > 0 || o.EntrenchOrder > 0 || o.TransferOrder > 0 || o.BossOrder > 0 ||
-                             o.AttackOrder > 0 || o.LoadOrder > 0 || o.InterdictOrder > 0 ||
-                             o.StratBombOrder > 0 || o.LandingOrder > 0;
-    if (!confirmable) return false;
-    DoButton();
-    return true;
-  }
-  // Letters come as their capitals' codes; the codes above them are the
-  // function keys and the number pad.
-  const int letter = keyCode;
-  if (letter < 'A' || letter > 'Z') return false;
-  if (o.AttackOrder > 0 || o.SelOrderMove > 0 || o.TransferOrder > 0 || o.BossOrder > 0) return false;
-  if (Editing() && !UI.ShowEditorPanel) return false;
-  for (int i = 0; i < kOrderButtonCount; ++i)
-    if (OrderButtonOf(i).key == letter) return PressOrderButton(i);
-  return false;
 }
 
 void JoinAttacker() {
@@ -601,21 +451,6 @@ void JoinAttacker() {
   }
   RequestRedraw(1);
   UI.PanelDirty = true;
-}
-
-bool PanelPress(int slot) {
-  if (!SelectStackSlot(slot)) return false;
-  JoinAttacker();
-  return true;
-}
-
-void HoverMap(int x, int y) {
-  if (UI.Order.SelOrderMove <= 0) return;
-  if (ValidHex(x, y) && Hex[x][y].Mark < 999) {
-    Buttons.orderLine = "Move Cost = " + NumText(Hex[x][y].Mark);
-  } else {
-    Buttons.orderLine = "No Move possible.";
-  }
 }
 
 }  // namespace mf
