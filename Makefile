@@ -35,15 +35,17 @@ test: build build-asan
 bench: build
 	./$(BUILD)/bin/mfbench
 
-# The libFuzzer targets (clang, address and undefined sanitizers), each run
-# for FUZZ_SECONDS from the seed corpus in the tree, with the format's
-# dictionary. New inputs go to a scratch corpus in the build folder, crashes
-# to $(FUZZ_BUILD)/artifacts; any crash fails the run.
-FUZZ_TARGETS := fuzz_scenario_reader fuzz_load_and_play fuzz_json_import fuzz_content_compiler fuzz_script_runner
+# The libFuzzer targets (clang, address and undefined sanitizers, undefined
+# behaviour fatal) in their own build folder, each run for FUZZ_SECONDS from
+# the seed corpus in the tree with the format's dictionary (tests/fuzz/run.sh).
+# Anything found fails the run.
+CCACHE := $(shell command -v ccache 2>/dev/null)
+# All targets, or some: make fuzz FUZZ_TARGETS="fuzz_json_import fuzz_script_runner"
+FUZZ_TARGETS ?=
 
 $(FUZZ_BUILD)/CMakeCache.txt:
 	CXX=clang++ CC=clang cmake -S . -B $(FUZZ_BUILD) -DCMAKE_BUILD_TYPE=RelWithDebInfo -DMF_FUZZ=ON \
-	  -DMF_BUILD_APP=OFF -DMF_BUILD_BENCH=OFF -DMF_WERROR=OFF
+	  -DMF_BUILD_APP=OFF -DMF_BUILD_BENCH=OFF -DMF_WERROR=OFF $(if $(CCACHE),-DCMAKE_CXX_COMPILER_LAUNCHER=ccache)
 
 fuzz-build:
 	@bash scripts/install-deps.sh --fuzz
@@ -51,18 +53,7 @@ fuzz-build:
 	cmake --build $(FUZZ_BUILD) -j$(JOBS) --target fuzz_targets
 
 fuzz: fuzz-build
-	@mkdir -p $(FUZZ_BUILD)/artifacts
-	@status=0; for t in $(FUZZ_TARGETS); do \
-	  mkdir -p $(FUZZ_BUILD)/corpus/$$t; \
-	  echo "fuzz: $$t for $(FUZZ_SECONDS) s"; \
-	  ./$(FUZZ_BUILD)/bin/$$t -max_total_time=$(FUZZ_SECONDS) -timeout=30 -rss_limit_mb=4096 \
-	    -max_len=1048576 -print_final_stats=1 -dict=tests/fuzz/marrowfield.dict \
-	    -artifact_prefix=$(FUZZ_BUILD)/artifacts/$$t- \
-	    $(FUZZ_BUILD)/corpus/$$t tests/fuzz/corpus/$$t > $(FUZZ_BUILD)/$$t.log 2>&1 || status=1; \
-	  grep -E "^(stat::|#[0-9]+ *DONE|==[0-9]+==ERROR|SUMMARY)" $(FUZZ_BUILD)/$$t.log || tail -20 $(FUZZ_BUILD)/$$t.log; \
-	done; \
-	if [ $$status -ne 0 ]; then echo "fuzz: a target found a crash (see $(FUZZ_BUILD)/artifacts and the logs)"; exit 1; fi; \
-	echo "fuzz: no crash"
+	bash tests/fuzz/run.sh $(FUZZ_BUILD) $(FUZZ_SECONDS) $(FUZZ_TARGETS)
 
 clean:
 	rm -rf $(BUILD) $(ASAN_BUILD) $(FUZZ_BUILD)

@@ -23,14 +23,27 @@ std::string AsText(const std::uint8_t* data, std::size_t size) {
   return std::string(reinterpret_cast<const char*>(data), size);
 }
 
-const std::string& ScratchDir() {
-  static const std::string dir = [] {
+namespace {
+// The scratch folder goes with the process that made it (a crash leaves it
+// behind, next to the input that caused it).
+struct Scratch {
+  std::string path;
+  Scratch() {
     std::random_device rd;
     const fs::path p = fs::temp_directory_path() / ("mffuzz_" + std::to_string(rd()) + std::to_string(rd()));
     fs::create_directories(p);
-    return p.string();
-  }();
-  return dir;
+    path = p.string();
+  }
+  ~Scratch() {
+    std::error_code ec;
+    fs::remove_all(path, ec);
+  }
+};
+}  // namespace
+
+const std::string& ScratchDir() {
+  static const Scratch scratch;
+  return scratch.path;
 }
 
 std::string WriteScratch(const std::string& name, const std::string& bytes) {
