@@ -46,7 +46,7 @@ void BuildAIWorld() {
   ZeroAllTables();
   FillEngineVarLabels();
   SetEngineVarDefaults();
-  MakeItSo(true, "100", "100");
+  ClearGame(true, 100, 100);
   gAIPlatform.keepAnalysis = false;
   InstallPlatform(&gAIPlatform);
   Game.RegimeCount = 4;

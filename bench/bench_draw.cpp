@@ -36,7 +36,7 @@ void BuildDrawWorld() {
   ZeroAllTables();
   FillEngineVarLabels();
   SetEngineVarDefaults();
-  MakeItSo(true, "100", "100");
+  ClearGame(true, 100, 100);
   InstallPlatform(&gPlatform);
   std::mt19937 gen(7);
   auto pick = [&gen](int lo, int hi) { return std::uniform_int_distribution<int>(lo, hi)(gen); };
@@ -106,7 +106,7 @@ void BuildDrawWorld() {
     h.Unit[s] = u;
     ++made;
   }
-  setup();
+  LayOutMapWindow();
   // The view in the middle of the map.
   UI.ScrollX = 40 * 42;
   UI.ScrollY = 40 * 30;

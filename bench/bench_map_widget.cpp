@@ -69,7 +69,7 @@ std::unique_ptr<Window> OpenWindow(benchmark::State& state, int zoom) {
   w->main->show();
   w->main->mapWidget()->SetZoom(zoom);
   for (int i = 0; i < 5; ++i) QCoreApplication::processEvents();
-  setup();
+  LayOutMapWindow();
   UI.ScrollX = 40 * 42;
   UI.ScrollY = 40 * 30;
   UI.SelX = 50;

@@ -26,7 +26,7 @@ void BuildRandomWorld() {
   FillEngineVarLabels();
   SetEngineVarDefaults();
   InstallPlatform(&gRandomPlatform);
-  MakeItSo(true, "10", "10");
+  ClearGame(true, 10, 10);
   Game.TypeCount = 2;
   Type[1].Name = "Infantry";
   Type[1].Class = 1;
@@ -39,7 +39,7 @@ void BuildRandomWorld() {
     People[p].LastName[1] = "Stone";
   }
   for (int pic = 1; pic <= 200; ++pic) OfficerPicSet[pic] = (pic - 1) / 40 + 1;
-  dotempregs();
+  MakeRandomRegimes();
   for (int r = 1; r <= 10; ++r) Regime[r].PortraitSet = Regime[r].OwnPeople;
 }
 

@@ -107,7 +107,7 @@ void MapWidget::ViewResized() {
   canvas_.SetScale(scale);
   canvas_.Resize(w + kCanvasMarginW, h + kCanvasMarginH);
   UI.WindowWidth = window() ? window()->width() : UI.WindowWidth;
-  setup();
+  LayOutMapWindow();
   RequestRedraw(2);
   // The window syncs (and draws) once the resize is over, never in the
   // middle of Qt laying out or showing its widgets.

@@ -65,11 +65,11 @@ void StartGameState(const QString& programDir) {
   mf::SeedRndFromClock();
   mf::FillEngineVarLabels();
   mf::SetEngineVarDefaults();
-  mf::onlyclear();
+  mf::ClearForLoad();
   mf::LoadSprites();
   mf::UI.EditMode = 1;
   mf::UI.HideEditor = true;
-  mf::setup();
+  mf::LayOutMapWindow();
 }
 
 bool ScreenCheck(int screenHeight) {

@@ -341,7 +341,7 @@ class Compiler {
 
     // A scenario starts from a full clear with the rules at their defaults.
     StartFresh(static_cast<std::uint32_t>(seed));
-    MakeItSo(true, std::to_string(w), std::to_string(h));
+    ClearGame(true, w, h);
     UI.EditMode = 1;
 
     Rules();

@@ -72,14 +72,14 @@ bool LoadCopy(const std::string& path, std::string* why) {
     *why = "cannot copy " + path;
     return false;
   }
-  onlyclear();
+  ClearForLoad();
   const bool read = ReadFile(copy.string());
   fs::remove(copy, ec);
   if (!read) {
     *why = "cannot load " + path;
     return false;
   }
-  setup();
+  LayOutMapWindow();
   return true;
 }
 

@@ -111,7 +111,7 @@ bool NewScenario(Run&, const Words& a, std::string* why) {
     *why = "new: " + *why;
     return false;
   }
-  MakeItSo(true, a[0], a[1]);
+  ClearGame(true, MapSizeFromText(a[0]), MapSizeFromText(a[1]));
   AfterClearCommand(true);
   return true;
 }
@@ -121,7 +121,7 @@ bool ClearMap(Run&, const Words& a, std::string* why) {
     *why = "clearmap: " + *why;
     return false;
   }
-  MakeItSo(false, a[0], a[1]);
+  ClearGame(false, MapSizeFromText(a[0]), MapSizeFromText(a[1]));
   AfterClearCommand(false);
   return true;
 }

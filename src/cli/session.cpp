@@ -19,7 +19,7 @@ void StartFresh(std::uint32_t seed) {
   SeedRnd(seed);
   UI.EditMode = 1;
   UI.HideEditor = true;
-  setup();
+  LayOutMapWindow();
 }
 
 bool ReadBytes(const std::string& path, std::string* bytes, std::string* why) {

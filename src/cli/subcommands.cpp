@@ -81,7 +81,7 @@ bool LoadForListing(const std::string& path, std::string* why) {
   }
   if (LooksScrambled(bytes)) bytes = FlipBytes(bytes);
   StartFresh();
-  onlyclear();
+  ClearForLoad();
   const long version = ParseScenario(bytes);
   if (version > kFileVersion) {
     *why = path + " is of file version " + std::to_string(version) + ", newer than " + std::to_string(kFileVersion);
@@ -123,7 +123,7 @@ int NewCommand(const Args& args, std::ostream& out, std::ostream& err) {
   }
   Printing printing(out);
   StartFresh();
-  MakeItSo(true, pos[0], pos[1]);
+  ClearGame(true, MapSizeFromText(pos[0]), MapSizeFromText(pos[1]));
   AfterClearCommand(true);
   if (!WriteFile(output)) {
     err << "new: cannot write " << output << "\n";
@@ -199,7 +199,7 @@ int ImportJsonCommand(const Args& args, std::ostream& out, std::ostream& err) {
   }
   Printing printing(out);
   StartFresh();
-  onlyclear();
+  ClearForLoad();
   if (!ImportJson(json, &why)) {
     err << "import: " << pos[0] << ": " << why << "\n";
     return 1;
@@ -309,7 +309,7 @@ int RandomCommand(const Args& args, std::ostream& out, std::ostream& err) {
     err << "random: " << printing.platform.lastError << "\n";
     return 1;
   }
-  setup();
+  LayOutMapWindow();
   if (!WriteFile(output)) {
     err << "random: cannot write " << output << "\n";
     return 1;

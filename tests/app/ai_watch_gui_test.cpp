@@ -45,7 +45,7 @@ class AIWatchTest : public AppTest {
     blueUnit = world::AddUnit(blue, 16, 5, "Blue Rifles", rifles, 200);
     Game.GameEndPop = 100000;
     // The scroll ranges of this map, as a load works them out.
-    mf::setup();
+    mf::LayOutMapWindow();
     Game.FogOfWar = fog;
     Game.Turn = 0;
     Game.CurRegime = 0;

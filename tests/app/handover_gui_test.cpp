@@ -325,7 +325,7 @@ TEST_F(HandoverTest, ThrowingAwayAGameOrSurrenderingIsAskedFirst) {
   EXPECT_EQ(Regime[red].AI, 1);
 
   // Outside a game nothing is asked.
-  mf::mendpublic();
+  mf::EndGameToEmptyMap();
   window->SyncWithGame();
   const size_t before = platform.Messages().size();
   Trigger("newScenario");

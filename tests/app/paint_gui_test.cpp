@@ -31,7 +31,7 @@ class PaintViewTest : public AppTest {
     Regime[2].HexSprite = 4;
     UI.EditMode = 1;
     UI.HideEditor = false;
-    mf::setup();
+    mf::LayOutMapWindow();
     mf::PaintTools = mf::PaintToolsRec{};
     mf::ForgetPaintStrokes();
     RequestRedraw(2);

@@ -55,7 +55,7 @@ class WindowTest : public AppTest {
     Hex[10][9].Owner = red;
     const std::string path = TempPath("small.mf1");
     EXPECT_TRUE(WriteFile(path));
-    onlyclear();
+    ClearForLoad();
     return path;
   }
 

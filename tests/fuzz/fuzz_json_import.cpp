@@ -11,7 +11,7 @@
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   using namespace mf;
   fuzz::FreshGame();
-  onlyclear();
+  ClearForLoad();
   std::string why;
   if (ImportJson(fuzz::AsText(data, size), &why)) SerializeScenario();
   return 0;

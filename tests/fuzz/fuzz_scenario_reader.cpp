@@ -18,7 +18,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   fuzz::FreshGame();
   std::string bytes = fuzz::AsText(data, size);
   if (cli::LooksScrambled(bytes)) bytes = cli::FlipBytes(bytes);
-  onlyclear();
+  ClearForLoad();
   const long version = ParseScenario(bytes);
   if (version > kFileVersion) return 0;  // refused before the rest is read
   RepairEngineVarsAfterLoad(version, false);
@@ -26,7 +26,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     if (Unit[u].Regime > 0) Counter(u);
   const std::string saved = SerializeScenario();
   // What was saved reads back.
-  onlyclear();
+  ClearForLoad();
   ParseScenario(saved);
   return 0;
 }

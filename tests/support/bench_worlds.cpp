@@ -39,7 +39,7 @@ void BuildTurnWorld() {
   ZeroAllTables();
   FillEngineVarLabels();
   SetEngineVarDefaults();
-  MakeItSo(true, "100", "100");
+  ClearGame(true, 100, 100);
   EngineVar[230].Value = 50;
   std::mt19937 gen(11);
   auto pick = [&gen](int lo, int hi) { return std::uniform_int_distribution<int>(lo, hi)(gen); };
@@ -167,7 +167,7 @@ void BuildFullScenario() {
   ZeroAllTables();
   FillEngineVarLabels();
   SetEngineVarDefaults();
-  MakeItSo(true, "100", "100");
+  ClearGame(true, 100, 100);
   Game.BookVarCount = kBookVarCount;
   Game.Turn = 12;
   Game.CurRegime = 3;

@@ -49,7 +49,7 @@ std::string CoreTest::TempPath(const std::string& name) const { return (fs::path
 namespace world {
 
 void NewMap(int w, int h) {
-  MakeItSo(true, std::to_string(w), std::to_string(h));
+  ClearGame(true, w, h);
 }
 
 int AddRegime(const std::string& name) {

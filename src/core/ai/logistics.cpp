@@ -32,7 +32,7 @@ bool AIHandOver(const ShqPlace& from, int toX, int toY, int toSlot) {
   UI.SelX = toX;
   UI.SelY = toY;
   UI.SelSlot = toSlot;
-  return dotransfer(true);
+  return RunTransfer(true);
 }
 
 std::vector<ShqPlace> AIShqsOnMap(bool ownHexOnly) {

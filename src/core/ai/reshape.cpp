@@ -38,7 +38,7 @@ bool Hand(int x, int y, int from, int into, const Long qty[5]) {
   UI.SelX = x;
   UI.SelY = y;
   UI.SelSlot = into;
-  const bool done = dotransfer(true);
+  const bool done = RunTransfer(true);
   if (done) AIMoveSound();
   TransferRequest = TransferRequestRec{};
   return done;

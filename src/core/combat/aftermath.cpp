@@ -85,7 +85,7 @@ void RemoveAttacker(const Engagement& e, int& pass) {
 void LoseOnTheWay(int u, int opponent, int cls, long long n, const std::string& what) {
   const long before = UnitSlotQty(u, cls);
   ApplyLoss(u, opponent, kLossArtillery, cls, n);
-  addtolist("Lost " + NumText(before - UnitSlotQty(u, cls)) + what, TheBattle.delay);
+  AddBattleLine("Lost " + NumText(before - UnitSlotQty(u, cls)) + what, TheBattle.delay);
 }
 
 void BreakOff(const Engagement& e, int pass) {
@@ -95,7 +95,7 @@ void BreakOff(const Engagement& e, int pass) {
     a.MP = static_cast<Long>(a.MP - EV(534));
     if (a.MP > EV(535)) a.MP = EV(535);
   }
-  addtolist("ATTACKING UNIT RETREATS", b.delay);
+  AddBattleLine("ATTACKING UNIT RETREATS", b.delay);
   if (a.MobQty > 0) {
     long long n = Int(static_cast<double>(Rnd()) * a.MobQty) + 1;
     if (static_cast<double>(Rnd()) * EV(650) > 1) n = 0;
@@ -125,7 +125,7 @@ void LandAttackerFate(const Engagement& e, int& pass) {
   if (obliterated) {
     if (a.ArtQty > 0) ApplyLoss(e.attacker, e.target, kLossArtillery, 3, a.ArtQty);
     if (a.MobQty > 0) ApplyLoss(e.attacker, e.target, kLossArtillery, 2, a.MobQty);
-    addtolist(a.Name + " is obliterated.", b.delay);
+    AddBattleLine(a.Name + " is obliterated.", b.delay);
     if (a.Thq > 0) DropThq(e.attacker);
     RemoveAttacker(e, pass);
     return;
@@ -176,14 +176,14 @@ void LoseStock(const Engagement& e) {
       }
     }
     const std::string name = ValidType(static_cast<int>(type)) ? Type[type].Name : std::string();
-    addtolist("Lost " + NumText(m) + name + " while retreating.", TheBattle.delay);
+    AddBattleLine("Lost " + NumText(m) + name + " while retreating.", TheBattle.delay);
   }
 }
 
 void Retreat(const Engagement& e) {
   BattleState& b = TheBattle;
   UnitRec& t = Unit[e.target];
-  addtolist(t.Name + " attempting to retreat", b.delay);
+  AddBattleLine(t.Name + " attempting to retreat", b.delay);
   const Long owner = Hex[b.tx][b.ty].Owner;
   const int start = static_cast<int>(Int(static_cast<double>(Rnd()) * 6)) + 1;
   HexXY to{};
@@ -200,7 +200,7 @@ void Retreat(const Engagement& e) {
   }
   if (to.x == 0) {
     t.Readiness = ReadinessShare(t.Readiness, EV(543));
-    addtolist("could not find an escape. ", b.delay);
+    AddBattleLine("could not find an escape. ", b.delay);
     return;
   }
   // A retreat always costs vehicles and guns, though the draw may spare them all.
@@ -217,7 +217,7 @@ void Retreat(const Engagement& e) {
   b.stackSize -= 1;
   t.Readiness = ReadinessShare(t.Readiness, EV(542));
   t.Disruption = CappedAdd(t.Disruption, EV(546), 100);
-  addtolist("DEFENDING UNIT HAS RETREATED.", b.delay);
+  AddBattleLine("DEFENDING UNIT HAS RETREATED.", b.delay);
 }
 
 // Step 4 to 8: a land target is destroyed, retreats, or stands.
@@ -271,19 +271,19 @@ bool Aftermath(const Engagement& e, int& pass) {
     t.Regime = 0;
   }
   if (Unit[e.attacker].Theater == kSeaTheater && Unit[e.attacker].Regime != 0 && NothingLeft(Unit[e.attacker])) {
-    addtolist(Unit[e.attacker].Name + " is obliterated.", b.delay);
+    AddBattleLine(Unit[e.attacker].Name + " is obliterated.", b.delay);
     RemoveAttacker(e, pass);
   }
 
   if (UI.AttackerCount <= 0) {
     b.round = 999;
-    addtolist("ATTACK / OFFENSIVE IS ABORTED DUE TO LOSSES.", b.delay);
+    AddBattleLine("ATTACK / OFFENSIVE IS ABORTED DUE TO LOSSES.", b.delay);
     return true;
   }
   if (b.stackSize < 1) {
     b.round = 999;
     BattleSound(kSoundVictory);
-    addtolist("OFFENSIVE SUCCESFULL", b.delay);
+    AddBattleLine("OFFENSIVE SUCCESFULL", b.delay);
     // Only troops that came to grips take the ground; shelling alone does not.
     if (b.engagements > 0) {
       HexRec& h = Hex[b.tx][b.ty];
@@ -301,14 +301,14 @@ void LogTallies() {
       "",          "Infantery: ", "Trucks: ",  "Artillery: ",    "Armour: ",  "Warships: ", "Cargoships: ",
       "Carriers: ", "Subs: ",      "Fighters: ", "Transporters: ", "Bombers: ", "Rockets: "};
   const int delay = TheBattle.shown ? 5 : 0;
-  addtolist(" ", delay);
-  addtolist("ATTACKER lost:", delay);
+  AddBattleLine(" ", delay);
+  AddBattleLine("ATTACKER lost:", delay);
   for (int k = 1; k <= kLossClasses; ++k)
-    if (AttackerLost[k] > 0) addtolist(kNames[k] + NumText(AttackerLost[k]), delay);
-  addtolist(" ", delay);
-  addtolist("DEFENDER lost:", delay);
+    if (AttackerLost[k] > 0) AddBattleLine(kNames[k] + NumText(AttackerLost[k]), delay);
+  AddBattleLine(" ", delay);
+  AddBattleLine("DEFENDER lost:", delay);
   for (int k = 1; k <= kLossClasses; ++k)
-    if (DefenderLost[k] > 0) addtolist(kNames[k] + NumText(DefenderLost[k]), delay);
+    if (DefenderLost[k] > 0) AddBattleLine(kNames[k] + NumText(DefenderLost[k]), delay);
 }
 
 }  // namespace mf

@@ -76,7 +76,7 @@ void Lose(int victim, int opponent, int kind, int cls, long long n, const std::s
           int delay) {
   const long before = UnitSlotQty(victim, cls);
   ApplyLoss(victim, opponent, kind, cls, n);
-  addtolist(who + NumText(before - UnitSlotQty(victim, cls)) + what, delay);
+  AddBattleLine(who + NumText(before - UnitSlotQty(victim, cls)) + what, delay);
 }
 
 // A unit that is no more leaves the stack of hex (x, y), where it stood.
@@ -89,7 +89,7 @@ void OutOfStack(int x, int y, int unit) {
 void Intercept(Flight& f, int interceptor, int carrier, int x, int y) {
   UnitRec& i = Unit[interceptor];
   UnitRec& m = Unit[f.unit];
-  addtolist("Attack intercepted by " + i.Name, f.delay);
+  AddBattleLine("Attack intercepted by " + i.Name, f.delay);
   for (int round = 1; round <= kInterceptRounds; ++round) {
     // 1. Both sides' dogfight power.
     const double ip = Worn(AttrOf(i.InfType, kDogfight) * i.InfQty, i);
@@ -139,7 +139,7 @@ void Intercept(Flight& f, int interceptor, int carrier, int x, int y) {
     // 6.
     if (TheBattle.shown) {
       BattleSound(kSoundFighter);
-      addtolist("", 500);
+      AddBattleLine("", 500);
     }
     // A wing that is gone fights no further rounds.
     if (dead) break;
@@ -180,10 +180,10 @@ void AntiAircraft(Flight& f) {
   const long owner = Hex[f.tx][f.ty].Owner;
   const long side = f.target != 0 ? Unit[f.target].Regime : owner;
   const long long a = AntiAirPoints(f.tx, f.ty, f.target != 0 ? Unit[f.target].Regime : 0, owner);
-  addtolist("Defender has " + NumText(a) + " AA pts gathered in and around hex.", f.delay);
+  AddBattleLine("Defender has " + NumText(a) + " AA pts gathered in and around hex.", f.delay);
   if (a > 0 && TheBattle.shown) {
     BattleSound(kSoundArtillery);
-    addtolist("", 1000);
+    AddBattleLine("", 1000);
   }
   const UnitRec& m = Unit[f.unit];
   // Transport aircraft draw no fire of their own: a flight of transports
@@ -218,7 +218,7 @@ void StrategicBombing(Flight& f) {
   if (damage > 100) damage = 100;
   h.Damage = static_cast<Short>(damage);
   BattleSound(kSoundBomb);
-  addtolist("Strategic bombardment caused " + NumText(rise) + "% dammage.", TheBattle.shown ? 1000 : 0);
+  AddBattleLine("Strategic bombardment caused " + NumText(rise) + "% dammage.", TheBattle.shown ? 1000 : 0);
   // Crews learn on every raid until they are seasoned.
   if (m.Experience < 75) m.Experience += 5;
 }
@@ -287,7 +287,7 @@ void StrikeSea(const Flight& f, double s) {
       long long n = CasualtyCount(s, c, HitPoints(u.ArmType));
       const double divider = EV(503) != 0 ? static_cast<double>(EV(503)) : 1.0;
       if (static_cast<double>(Rnd()) * 100 < AttrOf(u.ArmType, kSubskills) / divider) {
-        addtolist("Defending subs dive quick enough...", f.delay);
+        AddBattleLine("Defending subs dive quick enough...", f.delay);
         n = 0;
       }
       Lose(t, f.unit, kLossInterdiction, 4, n, who, " subs.", f.delay);
@@ -341,14 +341,14 @@ void Interdiction(Flight& f) {
   if (hex.Land == kForest || hex.Land == kUrban) {
     s = static_cast<double>(Int(s * 0.5));
     h = static_cast<double>(Int(h * 0.5));
-    addtolist("Landscape gives defenders 50% extra protection.", f.delay);
+    AddBattleLine("Landscape gives defenders 50% extra protection.", f.delay);
   }
   // 4. Fortifications.
   const long long value = Fortification(hex);
   if (value < 100) {
     s = static_cast<double>(Int(s * static_cast<double>(value) / 100.0));
     h = static_cast<double>(Int(h * static_cast<double>(value) / 100.0));
-    addtolist("Fortifications give defender " + NumText(100 - value) + "% protection.", f.delay);
+    AddBattleLine("Fortifications give defender " + NumText(100 - value) + "% protection.", f.delay);
   }
   // 5.
   BattleSound(kSoundBomb);
@@ -470,7 +470,7 @@ void doInterdict() {
   f.delay = b.delay;
   ZeroBattleTallies();
   OpenBattleWindow(b.shown);
-  addtolist(AirMissionTitle(), f.delay);
+  AddBattleLine(AirMissionTitle(), f.delay);
 
   // 2. A strike costs the wing its movement as a battle does.
   UnitRec& m = Unit[f.unit];

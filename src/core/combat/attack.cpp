@@ -59,14 +59,14 @@ void doAttack() {
 
   Rnd();  // one draw is thrown away before every battle
   PrepareBattle();
-  addtolist("Initiating Battle", b.delay);
+  AddBattleLine("Initiating Battle", b.delay);
 
   b.round = 0;
   while (b.round <= b.roundLimit && b.stackSize > 0) {
     b.round += 1;
-    addtolist("", b.delay);
-    addtolist("______________________________Battle Round " + Str(b.round), b.delay);
-    addtolist("", b.delay);
+    AddBattleLine("", b.delay);
+    AddBattleLine("______________________________Battle Round " + Str(b.round), b.delay);
+    AddBattleLine("", b.delay);
     b.engagements = 0;
     // The pass runs to the count of the round's start: entries behind a
     // shrunken list still act with what they hold.
@@ -84,13 +84,13 @@ void doAttack() {
       const UnitRec& a = Unit[e.attacker];
       const UnitRec& t = Unit[e.target];
       if (e.bombarding) {
-        addtolist("_____________" + a.Name + " Bombards " + t.Name, b.delay);
+        AddBattleLine("_____________" + a.Name + " Bombards " + t.Name, b.delay);
       } else {
-        addtolist("_____________" + a.Name + " Engages " + t.Name, b.delay);
+        AddBattleLine("_____________" + a.Name + " Engages " + t.Name, b.delay);
         b.engagements += 1;
       }
-      addtolist("", 0);
-      addtolist(KindTitle(e.kind), b.delay);
+      AddBattleLine("", 0);
+      AddBattleLine(KindTitle(e.kind), b.delay);
 
       WorkFigures(e);
       ApplyModifiers(e);
@@ -104,7 +104,7 @@ void doAttack() {
   CloseBattleWindow(b.shown);
 }
 
-bool artyok2(int slot) {
+bool GunsInSlotReachTarget(int slot) {
   if (!ValidHex(UI.SelX, UI.SelY) || slot < 1 || slot > kStackSlots) return false;
   const long u = Hex[UI.SelX][UI.SelY].Unit[slot];
   if (!ValidUnit(static_cast<int>(u))) return false;
@@ -118,6 +118,6 @@ bool artyok2(int slot) {
   return Type[unit.ArtType].Attr[kArtilleryRange] >= d;
 }
 
-bool artyok() { return artyok2(static_cast<int>(UI.SelSlot)); }
+bool GunsReachTarget() { return GunsInSlotReachTarget(static_cast<int>(UI.SelSlot)); }
 
 }  // namespace mf

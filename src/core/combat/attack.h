@@ -12,8 +12,8 @@ void doAttack();
 // target UI.OrdX, UI.OrdY from where it stands? Guns of a land formation
 // reach as far as the artillery type's range; a warship fires with its
 // warships' artillery range.
-bool artyok();
+bool GunsReachTarget();
 // The same for the formation in stack slot `slot` of the selected hex.
-bool artyok2(int slot);
+bool GunsInSlotReachTarget(int slot);
 
 }  // namespace mf

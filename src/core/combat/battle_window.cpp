@@ -50,7 +50,7 @@ BattleWindow& TheBattleWindow() {
 
 void SetBattleWindowHook(BattleWindowHook hook) { Hook() = std::move(hook); }
 
-void addtolist(const std::string& text, int delay) {
+void AddBattleLine(const std::string& text, int delay) {
   TheBattleWindow().lines.push_back(text);
   Tell(BattleWindowChange::kLine);
   if (delay > 0) Plat().SleepMs(delay);

@@ -51,7 +51,7 @@ void SetBattleWindowHook(BattleWindowHook hook);
 
 // Appends a line to the battle log, keeps it in sight, then waits `delay`
 // milliseconds. The log is written for every battle, shown or not.
-void addtolist(const std::string& text, int delay);
+void AddBattleLine(const std::string& text, int delay);
 
 // Opening and closing of the window around a battle or an air mission.
 // `shown` is the display flag: the window appears only when it is set; the

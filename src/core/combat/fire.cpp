@@ -21,7 +21,7 @@ void Lose(int victim, int opponent, int kind, int cls, long long n, const std::s
   const long before = UnitSlotQty(victim, cls);
   ApplyLoss(victim, opponent, kind, cls, n);
   const long after = UnitSlotQty(victim, cls);
-  addtolist(who + Str(before - after) + what, TheBattle.delay);
+  AddBattleLine(who + Str(before - after) + what, TheBattle.delay);
 }
 
 // One line of fire of a direct land fight, held to the victim's frontage;
@@ -119,7 +119,7 @@ void Broadside(int victim, int opponent, double p, const std::string& who, const
   if (v.ArmType > 0) {
     long long n = CasualtyCount(p, c, HitPoints(v.ArmType));
     if (Int(static_cast<double>(Rnd()) * 100) < AttrOf(v.ArmType, kSubskills)) {
-      addtolist(evade, TheBattle.delay);
+      AddBattleLine(evade, TheBattle.delay);
       n = 0;
     }
     // The subs' line names the defender on both sides of a sea battle.

@@ -540,7 +540,7 @@ void ApplyModifiers(Engagement& e) {
     if (value < 100) {
       soft = static_cast<double>(Int(soft * static_cast<double>(value) / 100.0));
       hard = static_cast<double>(Int(hard * static_cast<double>(value) / 100.0));
-      addtolist("Fortifications give defender " + NumText(100 - value) + "% protection.", b.delay);
+      AddBattleLine("Fortifications give defender " + NumText(100 - value) + "% protection.", b.delay);
     }
   }
 
@@ -557,39 +557,39 @@ void LogEngagement(const Engagement& e) {
     const UnitRec& a = Unit[e.attacker];
     const UnitRec& t = Unit[e.target];
     if (e.kind < kKindSeaBattle) {
-      addtolist("GENERAL:", delay);
-      addtolist("FrontSize Limit: " + NumText(b.frontLimit), delay);
-      addtolist(" ", delay);
+      AddBattleLine("GENERAL:", delay);
+      AddBattleLine("FrontSize Limit: " + NumText(b.frontLimit), delay);
+      AddBattleLine(" ", delay);
     }
-    addtolist("ATTACKER:", delay);
-    addtolist("Readiness Mod:      " + Percent(a.Readiness - 100LL), delay);
-    addtolist("Experience Mod:     " + Percent(a.Experience - 100LL), delay);
-    addtolist("Leadership Mod:     " + Percent(Int(e.attLeadership * 100) - 100), delay);
-    addtolist("Disruption Mod:     " + Percent(Int(e.attDisruption * 100) - 100), delay);
-    addtolist("Land Type Hard Mod: " + Percent(Int(b.hardAttackLandFactor * 100) - 100), delay);
-    if (e.riverShown < 0) addtolist("River penalty Mod:  " + Percent(e.riverShown), delay);
-    if (e.tacticalShown > 0) addtolist("Tactical Bonus Mod: " + Percent(e.tacticalShown), delay);
-    if (e.coordinationShown > 0) addtolist("Coordination Bonus: " + Percent(e.coordinationShown), delay);
-    if (e.entrenchShown < 0) addtolist("Enemy Entrench Penalty: " + Percent(e.entrenchShown), delay);
-    addtolist("SOFT ATTACK:        " + LogNumber(e.softAttack), delay);
-    addtolist("HARD ATTACK:        " + LogNumber(e.hardAttack), delay);
-    addtolist(" ", delay);
-    addtolist("DEFENDER:", delay);
+    AddBattleLine("ATTACKER:", delay);
+    AddBattleLine("Readiness Mod:      " + Percent(a.Readiness - 100LL), delay);
+    AddBattleLine("Experience Mod:     " + Percent(a.Experience - 100LL), delay);
+    AddBattleLine("Leadership Mod:     " + Percent(Int(e.attLeadership * 100) - 100), delay);
+    AddBattleLine("Disruption Mod:     " + Percent(Int(e.attDisruption * 100) - 100), delay);
+    AddBattleLine("Land Type Hard Mod: " + Percent(Int(b.hardAttackLandFactor * 100) - 100), delay);
+    if (e.riverShown < 0) AddBattleLine("River penalty Mod:  " + Percent(e.riverShown), delay);
+    if (e.tacticalShown > 0) AddBattleLine("Tactical Bonus Mod: " + Percent(e.tacticalShown), delay);
+    if (e.coordinationShown > 0) AddBattleLine("Coordination Bonus: " + Percent(e.coordinationShown), delay);
+    if (e.entrenchShown < 0) AddBattleLine("Enemy Entrench Penalty: " + Percent(e.entrenchShown), delay);
+    AddBattleLine("SOFT ATTACK:        " + LogNumber(e.softAttack), delay);
+    AddBattleLine("HARD ATTACK:        " + LogNumber(e.hardAttack), delay);
+    AddBattleLine(" ", delay);
+    AddBattleLine("DEFENDER:", delay);
     // Under fog of war the attacker learns the defender's totals, not why.
     if (Game.FogOfWar == 0) {
-      addtolist("Readiness Mod:      " + Percent(t.Readiness - 100LL), delay);
-      addtolist("Experience Mod:     " + Percent(t.Experience - 100LL), delay);
-      addtolist("Leadership Mod:     " + Percent(Int(e.defLeadership * 100) - 100), delay);
-      addtolist("Disruption Mod:     " + Percent(Int(e.defDisruption * 100) - 100), delay);
+      AddBattleLine("Readiness Mod:      " + Percent(t.Readiness - 100LL), delay);
+      AddBattleLine("Experience Mod:     " + Percent(t.Experience - 100LL), delay);
+      AddBattleLine("Leadership Mod:     " + Percent(Int(e.defLeadership * 100) - 100), delay);
+      AddBattleLine("Disruption Mod:     " + Percent(Int(e.defDisruption * 100) - 100), delay);
     }
-    if (e.lineShown > 0) addtolist("Defensive line Bonus: " + Percent(e.lineShown), delay);
-    if (e.defCoordinationShown > 0) addtolist("Coordination Bonus: " + Percent(e.defCoordinationShown), delay);
-    addtolist("Land Type Soft Mod: " + Percent(Int(b.softDefenceLandFactor * 100) - 100), delay);
-    addtolist("SOFT DEFENSE:        " + LogNumber(e.softDefence), delay);
-    addtolist("HARD DEFENSE:        " + LogNumber(e.hardDefence), delay);
+    if (e.lineShown > 0) AddBattleLine("Defensive line Bonus: " + Percent(e.lineShown), delay);
+    if (e.defCoordinationShown > 0) AddBattleLine("Coordination Bonus: " + Percent(e.defCoordinationShown), delay);
+    AddBattleLine("Land Type Soft Mod: " + Percent(Int(b.softDefenceLandFactor * 100) - 100), delay);
+    AddBattleLine("SOFT DEFENSE:        " + LogNumber(e.softDefence), delay);
+    AddBattleLine("HARD DEFENSE:        " + LogNumber(e.hardDefence), delay);
   }
-  addtolist(" ", delay);
-  addtolist("COMBAT ROUND " + Str(b.round) + " RESULT:", delay);
+  AddBattleLine(" ", delay);
+  AddBattleLine("COMBAT ROUND " + Str(b.round) + " RESULT:", delay);
 }
 
 double CurrentAttackStrength(const Engagement& e) {

@@ -51,7 +51,7 @@ bool PlayComputerRegimeTurn() {
     // gives regime 1 back to a player. The computer takes it over.
     EveryRegimeComputerRun();
     Game.FogOfWar = 0;
-    pubendturn();
+    EndCurrentTurn();
   }
   return Game.Turn > 0;
 }

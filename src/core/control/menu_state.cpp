@@ -85,7 +85,7 @@ void ToggleDisplaySwitch(DisplaySwitch which) {
 void ToggleEditor() {
   if (GameInPlay() || !Editing()) return;
   UI.HideEditor = !UI.HideEditor;
-  setup();
+  LayOutMapWindow();
   UI.PanelDirty = true;
 }
 

@@ -82,7 +82,7 @@ void NewTurnDialog::Prepare() {
   } else {
     passwordShown = false;
     passwordButtonCaption.clear();
-    passcorrect();
+    RevealReport();
   }
 
   // 2. The player who is done mails the file to the next human.
@@ -108,7 +108,7 @@ void NewTurnDialog::Prepare() {
   briefing = me.Intro;
 }
 
-void NewTurnDialog::passcorrect() {
+void NewTurnDialog::RevealReport() {
   reportShown = true;
   accepted = true;
 }
@@ -123,11 +123,11 @@ bool NewTurnDialog::PasswordButton(std::string* why) {
   if (Game.Turn == 1) {
     // The first turn is where each player chooses his password.
     Current().Password = passwordText;
-    passcorrect();
+    RevealReport();
     return true;
   }
   if (PasswordMatches()) {
-    passcorrect();
+    RevealReport();
     return true;
   }
   Plat().ShowMessage("Wrong Password", "");

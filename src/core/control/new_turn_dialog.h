@@ -62,7 +62,7 @@ class NewTurnDialog : public HumbleDialog {
   // "Exit Game": asks "Are you sure you want to Quit?"; on yes, leaves.
   bool ExitButton(std::string* why);
   // Reveals the report after a correct password.
-  void passcorrect();
+  void RevealReport();
 
   // ---- HumbleDialog -------------------------------------------------------
   // Script actions: password=TEXT, login, proceed, savepbem=FILE, exit.

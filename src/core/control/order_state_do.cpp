@@ -31,7 +31,7 @@ void BossDo() {
 void TransferDo() {
   const int target = SelectedUnit();
   if (target == 0 || target == OriginUnit()) {
-    dotransfer2();
+    EndTransferOrder();
     return;
   }
   TransferBetween();

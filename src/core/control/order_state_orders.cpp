@@ -414,7 +414,7 @@ void JoinAttacker() {
   }
   const int d = Distance(static_cast<int>(UI.SelX), static_cast<int>(UI.SelY), static_cast<int>(UI.OrdX),
                          static_cast<int>(UI.OrdY));
-  if (d != 1 && !artyok()) return;
+  if (d != 1 && !GunsReachTarget()) return;
   if (Unit[u].MP < 2) {
     Say("Unit does not have 2 MP left. This is needed to do an attack.");
     return;

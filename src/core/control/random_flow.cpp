@@ -26,11 +26,11 @@ bool PrepareRandomGame(std::string* refusal) {
     if (refusal) *refusal = message;
     return false;
   }
-  onlyclear();
+  ClearForLoad();
   // Only the rule set of the base scenario is taken: rules, unit types,
   // research and peoples; its map, regimes and units are not.
   ImportRulesOf(base);
-  dotempregs();
+  MakeRandomRegimes();
   GivePortraitSets();
   UI.EditMode = 1;
   return true;
@@ -48,7 +48,7 @@ bool MakeRandomScenario(std::string* refusal) {
 
 bool dostartgame() {
   const bool made = MakeRandomScenario();
-  setup();
+  LayOutMapWindow();
   if (made) BeginFirstTurn();
   return made;
 }

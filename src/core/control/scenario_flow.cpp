@@ -92,7 +92,7 @@ bool doGoLoad(const std::string& path) {
     RefuseUnreadable(path, why);
     return false;
   }
-  onlyclear();
+  ClearForLoad();
   if (!ReadFile(path)) return false;
   if (Game.Turn > 0) {
     UI.EditMode = 0;
@@ -103,7 +103,7 @@ bool doGoLoad(const std::string& path) {
     UI.EditMode = 1;
     UI.HelpText = "You have loaded a game. You can now edit it or select start in the menu.";
   }
-  setup();
+  LayOutMapWindow();
   if (Game.PBEM == 1 && Game.Turn > 0) {
     UI.ResumeTurn = true;
     NextTurn();
@@ -175,7 +175,7 @@ void LoadCommand() {
     if (EV(706) == 1) {
       // Later files of a campaign are only for a running campaign to load.
       Plat().ShowMessage("You are not allowed to load this file.", "");
-      MakeItSo(true, "0", "0");
+      ClearGame(true, 0, 0);
       return;
     }
     // The first file of a campaign starts at once: the player is regime 1
@@ -209,7 +209,7 @@ void ImportCommand() {
 
 void LoadMenuScenario(int n) {
   if (n < 1 || n > 4) return;
-  onlyclear();
+  ClearForLoad();
   // The menu names the files without an extension; the files the build
   // makes carry ".mf1". Take the bare name when it exists, else the .mf1.
   const std::string name = "\\scenarios\\scenario" + std::to_string(n);

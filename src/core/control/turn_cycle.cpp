@@ -163,7 +163,7 @@ void RecoveryAndTowns() {
 
 bool UnitIsEmpty(const UnitRec& u) { return u.InfQty < 1 && u.MobQty < 1 && u.ArtQty < 1 && u.ArmQty < 1; }
 
-// Step 2 of pubendturn: formations with nobody left in them are disbanded,
+// Step 2 of EndCurrentTurn: formations with nobody left in them are disbanded,
 // whoever they belong to. An SHQ stays: it is a headquarters, not troops.
 void DisbandEmptyUnits() {
   for (int x = 1; x <= MapW(); ++x) {
@@ -215,9 +215,9 @@ void ChainScenario() {
     }
   }
   SetBusyPointer(true);
-  onlyclear();
+  ClearForLoad();
   if (!ReadFile(path)) {
-    mendpublic();
+    EndGameToEmptyMap();
     return;
   }
   for (int r = 1; r <= LastRegime(); ++r) Regime[r].AI = 1;
@@ -226,7 +226,7 @@ void ChainScenario() {
   Game.FogOfWar = 1;
   UI.EditMode = 0;
   UI.MapControlsShown = false;
-  setup();
+  LayOutMapWindow();
   NextTurn();
 }
 
@@ -284,7 +284,7 @@ void NextTurn() {
     doNewTurnForm();
     if (UI.ExitAfterTurnForm) {
       UI.ExitAfterTurnForm = false;
-      mendpublic();
+      EndGameToEmptyMap();
       return;
     }
     if (EV(704) == 0) ShowEventsOfThisTurn();
@@ -343,7 +343,7 @@ void NextTurn() {
   SetBusyPointer(false);
 }
 
-void pubendturn() {
+void EndCurrentTurn() {
   // 1. The map is put away while the turn changes hands.
   UI.PanelDirty = true;
   UI.MapControlsShown = false;
@@ -365,9 +365,9 @@ void pubendturn() {
   }
 }
 
-void mendpublic() {
-  MakeItSo(true, "0", "0");
-  setup();
+void EndGameToEmptyMap() {
+  ClearGame(true, 0, 0);
+  LayOutMapWindow();
   UI.ShowScrollX = false;
   UI.ShowScrollY = false;
   UI.ShowEditorPanel = false;
@@ -392,7 +392,7 @@ void EndTurnCommand() {
   }
   // No game, or the driver is still at work on a turn.
   if (!EndTurnAsks()) return;
-  if (Plat().AskYesNo("Are you sure you want to end your turn?", "End Turn")) pubendturn();
+  if (Plat().AskYesNo("Are you sure you want to end your turn?", "End Turn")) EndCurrentTurn();
 }
 
 void SurrenderCommand() {
@@ -402,7 +402,7 @@ void SurrenderCommand() {
     if (Regime[r].AI == 0) ++humans;
   if (humans == 1) {
     Plat().ShowMessage("You lost the game. Mercy on your soul and the people you abandoned.", "");
-    mendpublic();
+    EndGameToEmptyMap();
     UI.MapControlsShown = false;
     UI.MapShown = false;
     return;
@@ -425,7 +425,7 @@ void SurrenderCommand() {
   }
   // The computer takes over the beaten side.
   Regime[me].AI = 1;
-  pubendturn();
+  EndCurrentTurn();
 }
 
 void StartCommand() {
@@ -461,12 +461,12 @@ void TimerTick() {
   // 2. A finished computer turn ends here; while the driver runs the pointer
   // is busy and the tick leaves it alone.
   if (Game.Turn > 0 && ValidRegime(Game.CurRegime) && Regime[Game.CurRegime].AI > 0 && !UI.BusyPointer) {
-    pubendturn();
+    EndCurrentTurn();
   }
   // 3. and 4. An event asked to end the campaign or to go on to its next scenario.
   if (Lower(UI.PendingFile) == "end") {
     UI.PendingFile.clear();
-    mendpublic();
+    EndGameToEmptyMap();
     UI.MapControlsShown = false;
     UI.PanelsShown = false;
     UI.MapShown = false;

@@ -10,9 +10,9 @@ namespace mf {
 // human the New Turn dialog, and does the turn-start work of the regime.
 void NextTurn();
 // Ends the turn of the current regime and starts the next.
-void pubendturn();
+void EndCurrentTurn();
 // Ends a game and leaves the program on an empty map in editing mode.
-void mendpublic();
+void EndGameToEmptyMap();
 
 // Menu commands of the game menu.
 void EndTurnCommand();    // asks "Are you sure you want to end your turn?"

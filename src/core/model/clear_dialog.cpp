@@ -58,9 +58,9 @@ bool ClearDialog::Act(const std::string& action, const std::string& value, std::
 void ClearDialog::MakeItSoPressed() {
   if (!open_) return;
   if (use_ == kOnlyClear)
-    MakeItSo(true, "0", "0");
+    ClearGame(true, 0, 0);
   else
-    MakeItSo(use_ == kNewScenario, widthText, heightText);
+    ClearGame(use_ == kNewScenario, MapSizeFromText(widthText), MapSizeFromText(heightText));
   cleared_ = true;
   open_ = false;
 }

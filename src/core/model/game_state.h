@@ -265,7 +265,7 @@ struct UIRec {
   bool ResumeTurn = false;
   bool ExitAfterTurnForm = false;
 
-  // The map window's scroll bars, as setup computes them.
+  // The map window's scroll bars, as LayOutMapWindow computes them.
   Long PictureW = 0, PictureH = 0;
   Long ScrollMaxX = 0, ScrollMaxY = 0;
   Long ScrollLargeX = 0, ScrollLargeY = 0;
@@ -275,7 +275,7 @@ struct UIRec {
   bool ShowEditorPanel = false;
   Long WindowWidth = 1024;   // width of the main window in pixels, set by the window
   // The visible part of the map picture, in picture units: the classic map
-  // window is 958 x 448; the window sets its real size here before setup.
+  // window is 958 x 448; the window sets its real size here before LayOutMapWindow.
   Long ViewW = 958, ViewH = 448;
 
   // Lines the main window shows.

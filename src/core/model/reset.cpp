@@ -9,18 +9,18 @@
 namespace mf {
 namespace {
 
-// A map size field of the dialog as a number of hexes: its leading number,
-// rounded as any number stored into a whole field, held to 10..100.
-int MapSizeFromText(const std::string& text) {
-  const std::int64_t n = CInt(Val(text));
+// A map size as the clear takes it: held to 10..100 hexes.
+Long HeldMapSize(std::int64_t n) {
   if (n < kMapMin) return kMapMin;
   if (n > kMapCap) return kMapCap;
-  return static_cast<int>(n);
+  return static_cast<Long>(n);
 }
 
 }  // namespace
 
-void setup() {
+std::int64_t MapSizeFromText(const std::string& text) { return CInt(Val(text)); }
+
+void LayOutMapWindow() {
   UI.PictureW = MapPictureW();
   UI.PictureH = MapPictureH();
 
@@ -42,7 +42,7 @@ void setup() {
   UI.ShowEditorPanel = !(UI.HideEditor || UI.WindowWidth < 820);
 }
 
-void MakeItSo(bool resetRules, const std::string& widthText, const std::string& heightText) {
+void ClearGame(bool resetRules, std::int64_t width, std::int64_t height) {
   // 1. Whatever the player had selected or ordered, and the game's switches.
   UI.SelX = UI.SelY = UI.SelSlot = UI.SelCount = 0;
   UI.PrevSelX = UI.PrevSelY = 0;
@@ -143,13 +143,13 @@ void MakeItSo(bool resetRules, const std::string& widthText, const std::string& 
 
   // 9. The new map size; every hex of the new map is grass, including hexes
   // beyond the old size that step 4 left alone.
-  Game.MapW = MapSizeFromText(widthText);
-  Game.MapH = MapSizeFromText(heightText);
+  Game.MapW = HeldMapSize(width);
+  Game.MapH = HeldMapSize(height);
   for (int x = 1; x <= Game.MapW; ++x)
     for (int y = 1; y <= Game.MapH; ++y) Hex[x][y].Land = kGrass;
 }
 
-void onlyclear() { MakeItSo(true, "0", "0"); }
+void ClearForLoad() { ClearGame(true, 0, 0); }
 
 void AfterClearCommand(bool newScenario) {
   Game.FogOfWar = 0;
@@ -157,7 +157,7 @@ void AfterClearCommand(bool newScenario) {
   // The painting tools of the editor start unselected.
   UI.Order.RegimePaint = 0;
   UI.Order.LandscapePaint = 0;
-  setup();
+  LayOutMapWindow();
   if (newScenario) UI.RegimeLabel = "Editing";
 }
 

@@ -1,19 +1,20 @@
 // Clearing a game and laying out the map window for it.
 #pragma once
 
+#include <cstdint>
 #include <string>
 
 namespace mf {
 
 // Sizes the map picture and the scroll bars for the current map, as the
 // window shows them after every load and clear (UI.PictureW .. UI.ShowEditorPanel).
-void setup();
+void LayOutMapWindow();
 
 // The clearing of the Clear / New Game dialog's "Make it so". With
 // resetRules false the engine variables (except row 616, the SHQ stock width,
 // which goes to 0 with the SHQ tables), types, peoples and research stay;
-// with true they go back to their defaults too. Width and height are the
-// two fields' texts, taken by Val, rounded by CInt and held to 10..100.
+// with true they go back to their defaults too. The new map is width x
+// height hexes, each held to 10..100.
 //
 // Hexes inside the old map are cleared; hexes beyond it keep their data but
 // every hex of the new map gets Land 1. Events and book variables 1..200 are
@@ -24,11 +25,15 @@ void setup();
 // campaign's next file, read by the timer around a clear) and the window's
 // own fields stay. Of the game switches FogOfWar, FogOfExploration,
 // UsePasswords, PBEM and AIProdBonus are zeroed; Game.FileVersion stays.
-void MakeItSo(bool resetRules, const std::string& widthText, const std::string& heightText);
-// The silent full clear used before every load: both fields "0".
-void onlyclear();
+void ClearGame(bool resetRules, std::int64_t width, std::int64_t height);
+// A map size typed into the dialog's fields (or a script): its leading
+// number, rounded as any number stored into a whole field ("12abc" is 12,
+// "20.5" is 20, "abc" is 0). ClearGame holds it to the map's limits.
+std::int64_t MapSizeFromText(const std::string& text);
+// The silent full clear used before every load: the smallest map.
+void ClearForLoad();
 // What the menu's clear commands do after the dialog: fog off, editing on,
-// setup, and for a new scenario the regime label "Editing".
+// the map window laid out, and for a new scenario the regime label "Editing".
 void AfterClearCommand(bool newScenario);
 
 // Regime defaults of a new scenario's regime r: FormationName "Bataljon",

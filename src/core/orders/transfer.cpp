@@ -172,11 +172,11 @@ void TransferDialog::FromRequest() {
 
 void TransferDialog::Refresh() {
   for (int c = 1; c <= 4; ++c) rowText[c] = rows[c].type != 0 ? TypeOf(rows[c].type).Name : "";
-  calc_tr_cost();
-  dolabels();
+  WorkOutCost();
+  FillLabels();
 }
 
-void TransferDialog::calc_tr_cost() {
+void TransferDialog::WorkOutCost() {
   if (source == 0 || dest == 0 || !ValidHex(static_cast<int>(UI.SelX), static_cast<int>(UI.SelY))) return;
   double w1 = 0, w2 = 0, x = 0, pieces = 0;
   int landRows = 0, seaRows = 0, airRows = 0;
@@ -247,7 +247,7 @@ void TransferDialog::calc_tr_cost() {
   SeaCost = static_cast<long>(std::trunc(sea));
 }
 
-void TransferDialog::dolabels() {
+void TransferDialog::FillLabels() {
   landCapText = NumText(LandCap);
   seaCapText = NumText(SeaCap);
   const bool tooMuch = LandCost > LandCap || SeaCost > SeaCap;
@@ -262,7 +262,7 @@ void TransferDialog::dolabels() {
   }
 }
 
-void TransferDialog::adjustxp() {
+void TransferDialog::MixIncomingFigures() {
   UnitRec& s = Unit[source];
   UnitRec& d = Unit[dest];
   if (destShq) {
@@ -290,7 +290,7 @@ void TransferDialog::adjustxp() {
 
 void TransferDialog::CarryOut() {
   if (!AIMode && UI.SoundOff == 0) Plat().PlaySound(kTransferSound);
-  adjustxp();
+  MixIncomingFigures();
   UnitRec& s = Unit[source];
   UnitRec& d = Unit[dest];
   if (sourceShq) {
@@ -359,7 +359,7 @@ void TransferDialog::CarryOut() {
   if (!AIMode || Game.ShowAIMoves != kFalse) {
     Counter(source);
     Counter(dest);
-    dotransfer2();
+    EndTransferOrder();
   }
 }
 
@@ -460,7 +460,7 @@ bool TransferDialog::Cancel(std::string* why) {
   for (auto& row : rows) row = TransferRow{};
   supplyChosen = 0;
   open = false;
-  dotransfer2();
+  EndTransferOrder();
   return true;
 }
 
@@ -486,7 +486,7 @@ bool TransferDialog::Act(const std::string& action, const std::string& value, st
   return false;
 }
 
-bool dotransfer(bool aiMode) {
+bool RunTransfer(bool aiMode) {
   TransferDialog dialog;
   dialog.Prepare(aiMode);
   if (!dialog.open) return false;
@@ -507,22 +507,22 @@ void TransferBetween() {
   const int s = UnitAt(UI.OrdX, UI.OrdY, UI.OrdSlot);
   const int d = UnitAt(UI.SelX, UI.SelY, UI.SelSlot);
   if (s == 0 || d == 0 || s == d) {
-    dotransfer2();
+    EndTransferOrder();
     return;
   }
   const std::string refusal = RankOf(s) == kShqRank && RankOf(d) == kShqRank ? "" : ChainRefusal(s, d);
   if (!refusal.empty()) {
     Say(refusal);
-    dotransfer2();
+    EndTransferOrder();
     return;
   }
   // Troops change element only through an SHQ's pool.
   if (Unit[s].Shq <= 0 && Unit[d].Theater != Unit[s].Theater) return;
   SupplyFlood(true);
-  dotransfer(false);
+  RunTransfer(false);
 }
 
-void dotransfer2() {
+void EndTransferOrder() {
   UI.Order.TransferOrder = 0;
   ClearFlood();
   ReturnSelectionToOrigin();

@@ -20,7 +20,7 @@ constexpr int kTransferSound = 31;
 
 // What the computer player asks a transfer to move: for each class 1..4
 // (infantry, mobile, artillery, armour) a type and a quantity, and supply
-// points. The computer fills it and calls dotransfer(true).
+// points. The computer fills it and calls RunTransfer(true).
 struct TransferRequestRec {
   Long Type[5] = {};
   Long Qty[5] = {};
@@ -55,12 +55,12 @@ class TransferDialog : public HumbleDialog {
   void Prepare(bool aiMode);
 
   // Weight and cost of what is chosen: fills LandCost, SeaCost, MessageText.
-  void calc_tr_cost();
+  void WorkOutCost();
   // The cost labels ("N/A" for a cost beyond its capacity) and the capacities.
-  void dolabels();
+  void FillLabels();
   // Mixes experience, readiness and disruption of what comes into D.
-  void adjustxp();
-  // Carries the transfer out (after adjustxp), in the user's or the
+  void MixIncomingFigures();
+  // Carries the transfer out (after MixIncomingFigures), in the user's or the
   // computer's way.
   void CarryOut();
 
@@ -123,10 +123,10 @@ void TransferBetween();
 // supply from the source. With aiMode the dialog is not shown: the
 // quantities of TransferRequest go over at once, whatever the capacities,
 // and no sound plays. True when something was carried out.
-bool dotransfer(bool aiMode);
+bool RunTransfer(bool aiMode);
 
 // Ends the transfer order: the flag off, the flood forgotten, the selection
 // back on the source, both hexes redrawn and the buttons refreshed.
-void dotransfer2();
+void EndTransferOrder();
 
 }  // namespace mf

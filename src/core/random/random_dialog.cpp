@@ -54,7 +54,7 @@ void GivePortraitSets() {
   }
 }
 
-void dotempregs() {
+void MakeRandomRegimes() {
   Game.RegimeCount = kRandomRows;
   for (int r = 1; r <= kRandomRows; ++r) {
     RegimeRec& reg = Regime[r];

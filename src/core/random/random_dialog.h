@@ -20,7 +20,7 @@ constexpr const char* kRandomBaseFile = "2PL_Two_Rivers.mf1";
 // The ten regimes a random game can have: names, colours, peoples, 20
 // political points and "Bataljon" formations. Game.RegimeCount becomes 10;
 // regime 1 is played by a human, the others by the computer.
-void dotempregs();
+void MakeRandomRegimes();
 
 struct RandomScenarioRow {
   bool shown = false;   // rows above the chosen number of regimes are hidden

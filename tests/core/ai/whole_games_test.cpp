@@ -92,9 +92,9 @@ class WholeGame : public CoreTest, public ::testing::WithParamInterface<std::tup
     Tally t;
     const std::string path = CopyShipped(file, tempDir);
     if (path.empty()) return t;
-    onlyclear();
+    ClearForLoad();
     EXPECT_TRUE(ReadFile(path));
-    setup();
+    LayOutMapWindow();
     std::string why;
     EXPECT_TRUE(StartComputerGame(&why)) << why;
     SeedRnd(seed);

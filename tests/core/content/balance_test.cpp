@@ -78,7 +78,7 @@ class Balance : public CoreTest {
   // (1) on the west, Blue (2) on the east, at war, both run by the computer
   // with its moves hidden, so no battle waits for a person.
   void NewField() {
-    MakeItSo(false, "14", "14");
+    ClearGame(false, 14, 14);
     red_ = test::world::AddRegime("Red");
     blue_ = test::world::AddRegime("Blue");
     for (int r : {red_, blue_}) {
@@ -681,7 +681,7 @@ class ScenarioTurns : public CoreTest, public ::testing::WithParamInterface<std:
     seen.push_back(LookAtTurnStart());
     const int regimes = static_cast<int>(Game.RegimeCount);
     for (int k = 1; k < rounds * regimes && UI.PendingFile.size() < 2; ++k) {
-      pubendturn();
+      EndCurrentTurn();
       seen.push_back(LookAtTurnStart());
     }
     return seen;

@@ -151,7 +151,7 @@ TEST_F(Campaign, TakingCinderbridgeLoadsTheSecondPart) {
     bridge.Unit[s] = 0;
   }
   bridge.Owner = 1;
-  pubendturn();
+  EndCurrentTurn();
   // The computer's turns end on the timer; the load waits for it too.
   for (int tick = 0; tick < 20 && Game.MapW != 28; ++tick) TimerTick();
   ASSERT_EQ(Game.MapW, 28) << "the second part was not loaded (turn " << Game.Turn << ")";

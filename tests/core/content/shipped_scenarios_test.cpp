@@ -247,7 +247,7 @@ TEST_P(ShippedScenario, SeveralTurnsCanBeEnded) {
   ExpectFormationsSupplied(1, "at the first turn start");
   const int regimes = Game.RegimeCount;
   for (int k = 1; k <= 3 * regimes && UI.PendingFile.size() < 2; ++k) {
-    pubendturn();
+    EndCurrentTurn();
     ASSERT_EQ(CheckInvariants(), "") << "after regime turn " << k;
     EXPECT_EQ(Game.CurRegime, k % regimes + 1) << "after regime turn " << k;
     EXPECT_EQ(Game.Turn, 1 + k / regimes) << "after regime turn " << k;

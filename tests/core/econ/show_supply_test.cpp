@@ -107,7 +107,7 @@ TEST_F(ShowSupplyTest, TheViewMenuSwitchRunsTheCommand) {
 TEST_F(ShowSupplyTest, TheFigureIsPrintedOnTheSHQsHex) {
   RecordingCanvas canvas;
   InstallMapCanvas(&canvas);
-  setup();
+  LayOutMapWindow();
   UI.ScrollX = UI.ScrollY = 0;
   for (int x = 1; x <= Game.MapW; ++x)
     for (int y = 1; y <= Game.MapH; ++y) Hex[x][y].Vis = 3;

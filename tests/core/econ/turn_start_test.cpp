@@ -88,7 +88,7 @@ TEST_F(TurnStartTest, TheComputersTurnStartRunsTheSameEconomy) {
   SetTurnStepWatcher([&](const std::string& step) {
     if (step == "AITurn") readinessAtTurnStart = Unit[c].Readiness;
   });
-  pubendturn();
+  EndCurrentTurn();
   SetTurnStepWatcher(nullptr);
   ASSERT_EQ(Game.CurRegime, 2);
   EXPECT_EQ(CheckInvariants(), "");
@@ -111,7 +111,7 @@ TEST_F(TurnStartTest, TheComputersTurnStartRunsTheSameEconomy) {
 TEST_F(TurnStartTest, SeveralTurnsKeepTheEconomyGoing) {
   NextTurn();
   ASSERT_EQ(CheckInvariants(), "");
-  pubendturn();  // Blue, the computer, plays inside the driver
+  EndCurrentTurn();  // Blue, the computer, plays inside the driver
   ASSERT_EQ(CheckInvariants(), "");
   TimerTick();   // ends Blue's turn: Red's second
   ASSERT_EQ(Game.Turn, 2);
@@ -127,7 +127,7 @@ TEST_F(TurnStartTest, SeveralTurnsKeepTheEconomyGoing) {
   EXPECT_EQ(Regime[1].PP, ppBefore + 2);
   for (int k = 0; k < 6; ++k) {
     if (Game.CurRegime == 1) {
-      pubendturn();
+      EndCurrentTurn();
     } else {
       TimerTick();
     }
@@ -139,7 +139,7 @@ TEST_F(TurnStartTest, SeveralTurnsKeepTheEconomyGoing) {
   // turn and is held to 2 x 200 once above 1000: 391, 590, 789, 988.
   EXPECT_EQ(Unit[redShq].SupplyPct, 988);
   EXPECT_EQ(Regime[1].PP, ppBefore + 5);
-  pubendturn();
+  EndCurrentTurn();
   TimerTick();
   ASSERT_EQ(CheckInvariants(), "");
   // 988 + 199 = 1187: above 1000 and above 400, cut to 400.

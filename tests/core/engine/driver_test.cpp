@@ -33,7 +33,7 @@ TEST_F(DriverTest, RegimesFollowInNumberOrderAndEventsRunOnceAGameTurn) {
   NextTurn();  // turn 1, regime 1
   std::vector<std::pair<int, int>> seen{{Game.Turn, Game.CurRegime}};
   for (int i = 0; i < 6; ++i) {
-    pubendturn();
+    EndCurrentTurn();
     seen.push_back({Game.Turn, Game.CurRegime});
     EXPECT_EQ(CheckInvariants(), "");
   }
@@ -60,7 +60,7 @@ TEST_F(DriverTest, TheRegimeThatFinishedStartsItsReportAfresh) {
   News[2][1].Type = 1;
   News[2][1].Text = "Blue's loss";
   Regime[2].Losses[3] = 7;
-  pubendturn();
+  EndCurrentTurn();
   EXPECT_EQ(Game.CurRegime, 2);
   EXPECT_EQ(News[1][1].Type, 0);
   EXPECT_EQ(News[1][1].Text, "");
@@ -152,7 +152,7 @@ TEST_F(DriverTest, GameEndPopZeroMakesRegimeOneTheWinnerAtItsFirstTurnStart) {
   EXPECT_EQ(platform.newTurns[0].headlineTitle, "YOU WON THE GAME");
   EXPECT_EQ(platform.newTurns[0].headlineText, "VICTORY. You are victorious!");
   // Regime 2 reaches 0 too, but the first winner stays, and Blue reads its defeat.
-  pubendturn();
+  EndCurrentTurn();
   EXPECT_EQ(Game.GameWinner, 1);
   ASSERT_EQ(platform.newTurns.size(), 2u);
   EXPECT_EQ(platform.newTurns[1].headlineTitle, "YOU LOST THE GAME");
@@ -269,7 +269,7 @@ TEST_F(DriverTest, EventsShowAfterTheDialogOutsideACampaign) {
   EXPECT_LT(IndexOf("doNewTurnForm"), IndexOf("DoShowEvent 1"));
   EXPECT_LT(IndexOf("DoShowEvent 4"), IndexOf("HexCapture"));
   steps.clear();
-  pubendturn();
+  EndCurrentTurn();
   EXPECT_EQ(StepsLike("DoShowEvent"), (std::vector<std::string>{"DoShowEvent 1", "DoShowEvent 2"}));
 }
 
@@ -359,7 +359,7 @@ TEST_F(DriverTest, NewsMarksOfTheRegimeGoOnTheMap) {
   News[2][5] = {991, "Red surrendered.", 7, 7, 3};
   News[1][1] = {2, "", 8, 8, 4};        // Red's own news is cleared at its end of turn
   Hex[6][6].NewsMark[3] = 1;            // last turn's mark
-  pubendturn();
+  EndCurrentTurn();
   EXPECT_EQ(Hex[3][4].NewsMark[7], 1);
   EXPECT_EQ(Hex[5][5].NewsMark[9], 1);
   EXPECT_EQ(Hex[6][6].NewsMark[1], 0);

@@ -1,4 +1,4 @@
-// The end of a regime turn: pubendturn and the End Turn command.
+// The end of a regime turn: EndCurrentTurn and the End Turn command.
 #include "engine_test_util.h"
 
 namespace mf::test {
@@ -34,7 +34,7 @@ TEST_F(EndTurnTest, EmptyUnitsOfEveryRegimeAreDisbandedAndTheStackClosesUp) {
   // (6,3): an empty Red formation of the regime that ends its turn, too.
   const int redEmpty = world::AddUnit(1, 6, 3, "Red remnant");
 
-  pubendturn();
+  EndCurrentTurn();
 
   EXPECT_EQ(Hex[2][2].Unit[1], red);
   EXPECT_EQ(Hex[2][2].Unit[2], 0);
@@ -57,7 +57,7 @@ TEST_F(EndTurnTest, TwoEmptyUnitsOneAboveTheOtherBothGo) {
   const int a = world::AddUnit(2, 4, 4, "A");
   const int b = world::AddUnit(2, 4, 4, "B");
   const int c = world::AddUnit(2, 4, 4, "C", inf, 1);
-  pubendturn();
+  EndCurrentTurn();
   EXPECT_EQ(Unit[a].Regime, 0);
   EXPECT_EQ(Unit[b].Regime, 0);
   EXPECT_EQ(Hex[4][4].Unit[1], c);
@@ -69,7 +69,7 @@ TEST_F(EndTurnTest, AnEmptyShqNeverVanishes) {
   const int shq = world::AddUnit(2, 3, 3, "Blue SHQ");
   Unit[shq].Shq = 1;
   Shq[2][1].Unit = shq;
-  pubendturn();
+  EndCurrentTurn();
   EXPECT_EQ(Unit[shq].Regime, 2);
   EXPECT_EQ(Hex[3][3].Unit[1], shq);
   EXPECT_TRUE(StepsLike("DropThq").empty());
@@ -83,7 +83,7 @@ TEST_F(EndTurnTest, AnyClassWithOnePieceKeepsAFormation) {
   Unit[art].ArtQty = 1;
   const int arm = world::AddUnit(1, 1, 1, "Tanks");
   Unit[arm].ArmQty = 1;
-  pubendturn();
+  EndCurrentTurn();
   EXPECT_EQ(Unit[mob].Regime, 1);
   EXPECT_EQ(Unit[art].Regime, 1);
   EXPECT_EQ(Unit[arm].Regime, 1);
@@ -104,7 +104,7 @@ TEST_F(EndTurnTest, DeadUnitsLoseTypesQuantitiesAndCargo) {
   Unit[dead].ArmType = inf;
   Unit[dead].ArmQty = 4;
   Unit[dead].Cargo = 9;
-  pubendturn();
+  EndCurrentTurn();
   EXPECT_EQ(Unit[dead].InfType, 0);
   EXPECT_EQ(Unit[dead].InfQty, 0);
   EXPECT_EQ(Unit[dead].MobType, 0);
@@ -119,17 +119,17 @@ TEST_F(EndTurnTest, DeadUnitsLoseTypesQuantitiesAndCargo) {
 
 TEST_F(EndTurnTest, TheClickSoundPlaysUnlessSoundIsOff) {
   InPlay();
-  pubendturn();
+  EndCurrentTurn();
   EXPECT_EQ(platform.Sounds(), std::vector<int>{1});
   UI.SoundOff = 1;
-  pubendturn();
+  EndCurrentTurn();
   EXPECT_EQ(platform.Sounds(), std::vector<int>{1});
 }
 
 TEST_F(EndTurnTest, BeforeTheFirstTurnNoDriverRuns) {
   Game.Turn = 0;
   const int empty = world::AddUnit(1, 2, 2, "Empty");
-  pubendturn();
+  EndCurrentTurn();
   EXPECT_TRUE(steps.empty());
   EXPECT_EQ(Game.CurRegime, 0);
   EXPECT_EQ(Unit[empty].Regime, 0);
@@ -149,7 +149,7 @@ TEST_F(EndTurnTest, TheMapIsPutAwayAndTheNextRegimeStarts) {
     scrollAtDialog = UI.ShowScrollX || UI.ShowScrollY;
     busyAtDialog = UI.BusyPointer;
   };
-  pubendturn();
+  EndCurrentTurn();
   EXPECT_EQ(Game.CurRegime, 2);
   EXPECT_EQ(Game.Turn, 4);
   EXPECT_EQ(Count("doNewTurnForm"), 1);

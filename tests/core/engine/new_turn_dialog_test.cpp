@@ -84,7 +84,7 @@ TEST_F(NewTurnDialogTest, VictoryByAnEventLeavesWinnerPopZeroAndTheShortTextShow
     if (step == "RunEvents") Game.GameWinner = 2;
   };
   NextTurn();
-  pubendturn();
+  EndCurrentTurn();
   EXPECT_EQ(Game.GameWinner, 2);
   EXPECT_EQ(Game.WinnerPop, 0);
   EXPECT_EQ(Game.CurPop, 9000);

@@ -77,7 +77,7 @@ TEST_F(SurrenderTest, WithThreeHumansTheOthersGetAResignationLine) {
   EXPECT_EQ(Messages(), (std::vector<std::string>{kLost3, kResignNotice}));
   // Green reads it in its turn too; Red, now the computer's, plays on the ticks.
   platform.Clear();
-  pubendturn();
+  EndCurrentTurn();
   EXPECT_EQ(Game.CurRegime, 3);
   EXPECT_EQ(Messages(), std::vector<std::string>{kResignNotice});
   EXPECT_EQ(CheckInvariants(), "");
@@ -100,7 +100,7 @@ TEST_F(SurrenderTest, TheEndOfAGameLeavesAnEmptyMapInEditingMode) {
   UI.ShowScrollX = UI.ShowScrollY = true;
   UI.BusyPointer = true;
   UI.PanelsShown = UI.MapControlsShown = true;
-  mendpublic();
+  EndGameToEmptyMap();
   EXPECT_EQ(Game.Turn, 0);
   EXPECT_EQ(Game.CurRegime, 0);
   EXPECT_EQ(Game.RegimeCount, 0);

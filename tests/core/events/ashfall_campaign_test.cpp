@@ -38,7 +38,7 @@ class AshfallCampaign : public CoreTest {
   // player moves again or a file has been loaded (`until` says so).
   template <typename Until>
   void EndTurnAndWait(Until until) {
-    pubendturn();
+    EndCurrentTurn();
     for (int tick = 0; tick < 20 && !until(); ++tick) TimerTick();
   }
   void PlayTurn() {

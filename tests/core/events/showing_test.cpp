@@ -78,7 +78,7 @@ TEST_F(EventShowing, AnEventOfTheGameStartIsShownWhenRegimeOneOpensTurnOne) {
   EXPECT_EQ(ShownEvents(), std::vector<int>{e});
   EXPECT_TRUE(Called("DoShowEvent 1"));
   // Blue is not addressed.
-  pubendturn();
+  EndCurrentTurn();
   EXPECT_EQ(Game.CurRegime, blue);
   EXPECT_EQ(ShownEvents(), std::vector<int>{e});
 }
@@ -90,9 +90,9 @@ TEST_F(EventShowing, EventsRunOnceAGameTurnBeforeRegimeOneMoves) {
   Event[e].Data[2] = 1;
   NextTurn();  // turn 1
   EXPECT_EQ(Game.BookVar[1], 1);
-  pubendturn();  // Blue's turn 1
+  EndCurrentTurn();  // Blue's turn 1
   EXPECT_EQ(Game.BookVar[1], 1);
-  pubendturn();  // turn 2
+  EndCurrentTurn();  // turn 2
   EXPECT_EQ(Game.Turn, 2);
   EXPECT_EQ(Game.BookVar[1], 2);
   EXPECT_EQ(Event[e].FiredTurn, 2);
@@ -112,7 +112,7 @@ TEST_F(EventShowing, EachRegimeSeesWhatIsAddressedToIt) {
   NextTurn();
   EXPECT_EQ(ShownEvents(), (std::vector<int>{toRed, toAll, both}));
   watcher.shown.clear();
-  pubendturn();
+  EndCurrentTurn();
   EXPECT_EQ(ShownEvents(), (std::vector<int>{toBlue, toAll, both}));
   EXPECT_EQ(Event[nobody].FiredTurn, 1);
 }
@@ -125,10 +125,10 @@ TEST_F(EventShowing, OnlyEventsFiredThisGameTurnAreShown) {
   Event[later].TurnMin = 2;
   Event[later].ShowAll = 1;
   NextTurn();
-  pubendturn();
+  EndCurrentTurn();
   EXPECT_EQ(ShownEvents(), (std::vector<int>{once, once}));
   watcher.shown.clear();
-  pubendturn();  // turn 2, Red
+  EndCurrentTurn();  // turn 2, Red
   EXPECT_EQ(Game.Turn, 2);
   EXPECT_EQ(ShownEvents(), std::vector<int>{later});
 }
@@ -157,7 +157,7 @@ TEST_F(EventShowing, TheComputerIsShownNothing) {
   const int e = AddEvent();
   Event[e].ShowAll = 1;
   NextTurn();
-  pubendturn();
+  EndCurrentTurn();
   EXPECT_EQ(Game.CurRegime, blue);
   EXPECT_EQ(ShownEvents(), std::vector<int>{e});
 }
@@ -313,7 +313,7 @@ TEST_F(EventShowing, FiredTurnsAreSavedWithTheGame) {
   ASSERT_EQ(Event[e].FiredTurn, 1);
   const std::string path = TempPath("saved.mf1");
   ASSERT_TRUE(WriteFile(path));
-  onlyclear();
+  ClearForLoad();
   ASSERT_EQ(Event[e].FiredTurn, 0);
   ASSERT_TRUE(ReadFile(path));
   EXPECT_EQ(Event[e].FiredTurn, 1);

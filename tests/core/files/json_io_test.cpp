@@ -60,11 +60,11 @@ TEST_F(JsonIo, FileToJsonToFileIsLossless) {
   BuildRichScenario();
   const std::string path = TempPath("rich.mf1");
   ASSERT_TRUE(WriteFile(path));
-  onlyclear();
+  ClearForLoad();
   ASSERT_TRUE(ReadFile(path));
   const std::string loaded = SerializeScenario();
   const std::string json = ExportJson();
-  onlyclear();
+  ClearForLoad();
   std::string why;
   ASSERT_TRUE(ImportJson(json, &why)) << why;
   EXPECT_EQ(SerializeScenario(), loaded);

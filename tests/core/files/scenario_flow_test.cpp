@@ -207,7 +207,7 @@ TEST_F(ScenarioFlow, AScrambledFileIsLeftUntouchedAndAPlainOneEndsScrambled) {
   const std::string scrambled = ReadBytes(path);
   const auto past = fs::last_write_time(path) - std::chrono::hours(24 * 400);
   fs::last_write_time(path, past);
-  onlyclear();
+  ClearForLoad();
   ASSERT_TRUE(ReadFile(path));
   EXPECT_EQ(Unit[2].Name, "2nd Rifles");
   EXPECT_EQ(ReadBytes(path), scrambled);
@@ -219,7 +219,7 @@ TEST_F(ScenarioFlow, AScrambledFileIsLeftUntouchedAndAPlainOneEndsScrambled) {
   const std::string plainPath = TempPath("plain.mf1");
   WriteBytes(plainPath, Flipped(scrambled));
   fs::permissions(plainPath, fs::perms::owner_read | fs::perms::owner_write);
-  onlyclear();
+  ClearForLoad();
   ASSERT_TRUE(ReadFile(plainPath));
   EXPECT_EQ(Unit[2].Name, "2nd Rifles");
   EXPECT_EQ(ReadBytes(plainPath), scrambled);
@@ -280,7 +280,7 @@ TEST_F(ScenarioFlow, ADamagedFileWithExtremeValuesPlaysTwoTurns) {
   UI.HideEditor = true;
   NextTurn();
   ASSERT_EQ(Game.Turn, 1);
-  for (int k = 0; k < 2 * Game.RegimeCount; ++k) pubendturn();
+  for (int k = 0; k < 2 * Game.RegimeCount; ++k) EndCurrentTurn();
   EXPECT_EQ(Game.Turn, 3);
   EXPECT_GT(Regime[1].PP, -2147483647 - 1);  // its town's points were added
   EXPECT_EQ(Regime[2].PP, 2147483647);       // its town's points stop at the end
@@ -298,7 +298,7 @@ TEST_F(ScenarioFlow, PlainFileIsReadAndLeavesTheDiskScrambled) {
   const std::string plain = SerializeScenario();
   const std::string path = TempPath("plain.mf1");
   WriteBytes(path, plain);
-  onlyclear();
+  ClearForLoad();
   dialogs.Clear();
   UI.EditMode = 1;
   ASSERT_TRUE(ReadFile(path));
@@ -311,7 +311,7 @@ TEST_F(ScenarioFlow, PlainFileIsReadAndLeavesTheDiskScrambled) {
 TEST_F(ScenarioFlow, ScrambledFileFirstReadsAsZero) {
   SavedScenario("x.mf1");
   const std::string scrambled = Flipped(SerializeScenario());
-  onlyclear();
+  ClearForLoad();
   EXPECT_EQ(ParseScenario(scrambled), 0);
   EXPECT_EQ(Game.FileVersion, 0);
   EXPECT_EQ(Game.MapW, 0);
@@ -325,7 +325,7 @@ TEST_F(ScenarioFlow, PlainFileStartingWithZeroIsMistakenForAScrambledOne) {
   const std::string plain = JoinLines(lines);
   const std::string path = TempPath("zero.mf1");
   WriteBytes(path, plain);
-  onlyclear();
+  ClearForLoad();
   dialogs.Clear();
   // It is transformed, read as scrambled bytes (which form no fields), and
   // transformed back: the load goes through with nothing read.
@@ -353,7 +353,7 @@ TEST_F(ScenarioFlow, NewerVersionIsRefusedAndTheFileLeftPlain) {
 
   const std::string plainPath = TempPath("newer.mf1");
   WriteBytes(plainPath, plain);
-  onlyclear();
+  ClearForLoad();
   dialogs.Clear();
   EXPECT_FALSE(ReadFile(plainPath));
   EXPECT_EQ(Shown(), refusal);
@@ -380,7 +380,7 @@ TEST_F(ScenarioFlow, CampaignFileLoadsSilentlyAndRepairsApply) {
   EngineVar[538].Value = 50;
   const std::string path = TempPath("campaign.mf2");
   ASSERT_TRUE(WriteFile(path));
-  onlyclear();
+  ClearForLoad();
   dialogs.Clear();
   ASSERT_TRUE(ReadFile(path));
   EXPECT_TRUE(Shown().empty());
@@ -410,12 +410,12 @@ TEST_F(ScenarioFlow, DoGoLoadOfAMapToEdit) {
   EXPECT_EQ(UI.SelX, 1);
   EXPECT_EQ(UI.SelY, 1);
   EXPECT_FALSE(UI.ResumeTurn);
-  EXPECT_EQ(UI.PictureW, 12 * 42 + 70);  // setup sized the map picture for the file
+  EXPECT_EQ(UI.PictureW, 12 * 42 + 70);  // the layout sized the map picture for the file
 }
 
 TEST_F(ScenarioFlow, DoGoLoadOfASavedGame) {
   const std::string path = SavedScenario("game.mf1", 3);
-  onlyclear();
+  ClearForLoad();
   ASSERT_TRUE(doGoLoad(path));
   EXPECT_EQ(UI.EditMode, 0);
   EXPECT_EQ(UI.HelpText, "Welcome back to your game.");
@@ -435,7 +435,7 @@ TEST_F(ScenarioFlow, DoGoLoadOfAPbemGameResumesTheSavedRegime) {
   Regime[2].Email = "blue@example.org";
   const std::string path = TempPath("pbem.mf1");
   ASSERT_TRUE(WriteFile(path));
-  onlyclear();
+  ClearForLoad();
   ASSERT_TRUE(doGoLoad(path));
   // The driver resumes the regime of the file instead of advancing.
   EXPECT_EQ(Game.Turn, 3);
@@ -466,7 +466,7 @@ TEST_F(ScenarioFlow, CampaignFileThatOnlyACampaignMayLoadIsRefused) {
   EngineVar[706].Value = 1;
   const std::string path = TempPath("chapter2.mf2");
   ASSERT_TRUE(WriteFile(path));
-  onlyclear();
+  ClearForLoad();
   dialogs.Clear();
   UI.HideEditor = true;
   dialogs.QueueFile(path);
@@ -490,7 +490,7 @@ TEST_F(ScenarioFlow, CampaignFileWithTheEditorPanelShowingLoadsAsAMap) {
   EngineVar[706].Value = 1;
   const std::string path = TempPath("chapter2.mf2");
   ASSERT_TRUE(WriteFile(path));
-  onlyclear();
+  ClearForLoad();
   dialogs.Clear();
   UI.HideEditor = false;
   dialogs.QueueFile(path);
@@ -512,7 +512,7 @@ TEST_F(ScenarioFlow, FirstCampaignFileStartsTheCampaignAtOnce) {
   EngineVar[706].Value = 0;
   const std::string path = TempPath("chapter1.mf2");
   ASSERT_TRUE(WriteFile(path));
-  onlyclear();
+  ClearForLoad();
   UI.HideEditor = true;
   dialogs.QueueFile(path);
   LoadCommand();
@@ -533,7 +533,7 @@ TEST_F(ScenarioFlow, CampaignWithoutFogOfExploration) {
   EngineVar[705].Value = 0;
   const std::string path = TempPath("chapter1.mf2");
   ASSERT_TRUE(WriteFile(path));
-  onlyclear();
+  ClearForLoad();
   UI.HideEditor = true;
   dialogs.QueueFile(path);
   LoadCommand();
@@ -566,7 +566,7 @@ TEST_F(ScenarioFlow, ImportIntoARunningGameKeepsUnitsAndMap) {
   const std::string scrambled = ReadBytes(path);
 
   // The running game.
-  onlyclear();
+  ClearForLoad();
   world::NewMap(15, 12);
   world::AddRegime("Red");
   world::AddRegime("Blue");
@@ -642,16 +642,16 @@ TEST_F(ScenarioFlow, MenuScenariosLoadFromTheScenariosFolder) {
   world::NewMap(10, 10);
   world::AddRegime("Menu Two");
   ASSERT_TRUE(WriteFile(ScenariosDir() + "/scenario2.mf1"));
-  onlyclear();
+  ClearForLoad();
   world::NewMap(10, 10);
   world::AddRegime("Bare Three");
   ASSERT_TRUE(WriteFile(ScenariosDir() + "/scenario3"));
-  onlyclear();
+  ClearForLoad();
   world::NewMap(10, 10);
   world::AddRegime("Three With Extension");
   ASSERT_TRUE(WriteFile(ScenariosDir() + "/scenario3.mf1"));
 
-  onlyclear();
+  ClearForLoad();
   dialogs.Clear();
   LoadMenuScenario(2);
   EXPECT_EQ(Regime[1].Name, "Menu Two");

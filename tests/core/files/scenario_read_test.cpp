@@ -41,7 +41,7 @@ TEST_F(ScenarioRead, CommaInANameBreaksTheFieldsAfterIt) {
   const std::string plain = SerializeScenario();
   // The writer does not check: the comma stands in the file.
   EXPECT_EQ(SplitLines(plain)[LinesOf("Regime[1].Name")[0]], "Red, Army");
-  onlyclear();
+  ClearForLoad();
   ParseScenario(plain);
   EXPECT_EQ(Regime[1].Name, "Red");
   EXPECT_EQ(Regime[1].AI, 0);          // read " Army" on the name's line
@@ -61,7 +61,7 @@ TEST_F(ScenarioRead, StoryWithLineBreaksIsOneLineAndReadsBackIdentically) {
   ASSERT_EQ(story.size(), 1u);
   EXPECT_EQ(lines[story[0]], "First line//x//Second line//x////x//After a blank line");
   EXPECT_EQ(lines[story[0] + 1], " 12 ");  // the next field follows on the next line
-  onlyclear();
+  ClearForLoad();
   ParseScenario(plain);
   EXPECT_EQ(Event[1].Story, "First line\r\nSecond line\r\n\r\nAfter a blank line");
   EXPECT_EQ(Event[1].Sprite, 12);
@@ -85,13 +85,13 @@ TEST_F(ScenarioRead, SeenIsReadPerHexInTheMapAndXThenYInTheRegimeBlock) {
 
   // The block is read last and is what counts.
   lines[inMap[0] + 1] = " 0 ";
-  onlyclear();
+  ClearForLoad();
   ParseScenario(JoinLines(lines));
   EXPECT_EQ(Hex[2][3].Seen[2], 1);
 
   lines[inMap[0] + 1] = " 1 ";
   lines[inBlock] = " 0 ";
-  onlyclear();
+  ClearForLoad();
   ParseScenario(JoinLines(lines));
   EXPECT_EQ(Hex[2][3].Seen[2], 0);
 }
@@ -123,7 +123,7 @@ TEST_F(ScenarioRead, PeopleCountStandsBeforeTheListAndAtTheStartOfEachPeople) {
   // The copy in a record overwrites the count; the list still runs to the
   // first count, and the types then hold one Living/Owning pair.
   lines[counts[2]] = " 1 ";
-  onlyclear();
+  ClearForLoad();
   ParseScenario(JoinLines(lines));
   EXPECT_EQ(Game.PeopleCount, 1);
   EXPECT_EQ(People[2].Name, "Southmen");
@@ -149,7 +149,7 @@ TEST_F(ScenarioRead, TokenizerTakesLineEndsBlanksCommasAndQuotes) {
   SetLine(lines, "Game.ShowAIMoves", "True");
   SetLine(lines, "Game.AIAnalysis", "true");              // only the exact word is true
   SetLine(lines, "Regime[1].Name", "Reds   ");
-  onlyclear();
+  ClearForLoad();
   ParseScenario(JoinLines(lines));
   EXPECT_EQ(Game.GameEndPop, 6000);
   EXPECT_EQ(Game.CurPop, 12);
@@ -184,7 +184,7 @@ TEST_F(ScenarioRead, LfAndCrLineEndsReadLikeCrLf) {
     }
   }
   for (const std::string* text : {&lf, &cr}) {
-    onlyclear();
+    ClearForLoad();
     EXPECT_EQ(ParseScenario(*text), 111);
     EXPECT_EQ(Game.ScenarioStory, "A\r\nB");
     EXPECT_EQ(Regime[2].PP, 77);
@@ -202,7 +202,7 @@ TEST_F(ScenarioRead, TwoNumbersOnOneLineAreTwoFields) {
   lines[fog] = " 1 1";
   lines[fog + 1] = " 1 ";
   lines.erase(lines.begin() + static_cast<long>(fog) + 2);
-  onlyclear();
+  ClearForLoad();
   ParseScenario(JoinLines(lines));
   EXPECT_EQ(Game.FogOfWar, 1);
   EXPECT_EQ(Game.FogOfExploration, 1);
@@ -223,7 +223,7 @@ TEST_F(ScenarioRead, VersionRepairsOfTheNewestLayout) {
   Unit[u].Disruption = -5;
   Dip[2][1].Cost = 0;
   const std::string plain = SerializeScenario();
-  onlyclear();
+  ClearForLoad();
   ParseScenario(plain);
   EXPECT_EQ(Unit[u].Disruption, 0);
   EXPECT_EQ(Dip[2][1].Cost, 999);

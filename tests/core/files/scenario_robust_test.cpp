@@ -102,7 +102,7 @@ TEST_F(ScenarioRobust, HugeMapSizeIsClampedToTheTable) {
   auto lines = SplitLines(SerializeScenario());
   lines[LinesOf("Game.MapW")[0]] = " 5000 ";
   lines[LinesOf("Game.MapH")[0]] = "-7 ";
-  onlyclear();
+  ClearForLoad();
   ParseScenario(JoinLines(lines));
   EXPECT_EQ(Game.MapW, 100);
   EXPECT_EQ(Game.MapH, 0);
@@ -117,13 +117,13 @@ TEST_F(ScenarioRobust, UnitCountsOutsideTheTable) {
   auto lines = SplitLines(plain);
 
   lines[at] = "-3 ";
-  onlyclear();
+  ClearForLoad();
   ParseScenario(JoinLines(lines));
   EXPECT_EQ(Game.UnitCount, 0);
   EXPECT_EQ(RangeProblem(), "");
 
   lines[at] = " 99999 ";
-  onlyclear();
+  ClearForLoad();
   ParseScenario(JoinLines(lines));
   EXPECT_EQ(Game.UnitCount, 2000);
   EXPECT_EQ(Unit[1].Name, "A");  // the units before the end of the file are read
@@ -139,7 +139,7 @@ TEST_F(ScenarioRobust, OtherCountsOutsideTheirTables) {
       SmallScenario();
       auto lines = SplitLines(plain);
       for (auto at : LinesOf(name)) lines[at] = value;
-      onlyclear();
+      ClearForLoad();
       ParseScenario(JoinLines(lines));
       EXPECT_EQ(RangeProblem(), "") << name << " = " << value;
     }
@@ -153,7 +153,7 @@ TEST_F(ScenarioRobust, StockWidthOf9999IsHeldTo500) {
   ASSERT_EQ(width.size(), 2u);
   lines[width[0]] = " 9999 ";
   lines[width[1]] = " 9999 ";
-  onlyclear();
+  ClearForLoad();
   ParseScenario(JoinLines(lines));
   EXPECT_EQ(RangeProblem(), "");
   EXPECT_LE(EngineVar[616].Value, 500);
@@ -186,7 +186,7 @@ TEST_F(ScenarioRobust, ValuesOutsideTheirRangeReadAsTheRulesKeepThem) {
   set("Type[1].Class", " 5 ");
   set("Game.FogOfWar", " 2 ");
   set("Game.Turn", "-3 ");
-  onlyclear();
+  ClearForLoad();
   ParseScenario(JoinLines(lines));
   EXPECT_EQ(Dip[1][2].Cost, 999);
   EXPECT_EQ(Dip[2][1].Cost, 999);
@@ -248,7 +248,7 @@ TEST_F(ScenarioRobust, IndexFieldsNamingNothingReadAsZero) {
   set("Research[1].Need1", " 201 ");
   set("Research[1].Need2", "-1 ");
   set("Type[1].Research", " 201 ");
-  onlyclear();
+  ClearForLoad();
   ParseScenario(JoinLines(lines));
   EXPECT_EQ(Hex[2][2].Unit[1], 0);
   EXPECT_EQ(Hex[3][3].Unit[1], 0);
@@ -291,7 +291,7 @@ TEST_F(ScenarioRobust, MoreThanTenRegimesKeepTheirExtraSightToThemselves) {
   EXPECT_EQ(lines[LinesOf("Hex[5,5].Seen[12]")[0]], " 0 ");
   auto edited = lines;
   for (auto at : LinesOf("Hex[5,5].Seen[11]")) edited[at] = " 1 ";
-  onlyclear();
+  ClearForLoad();
   ParseScenario(JoinLines(edited));
   EXPECT_EQ(Game.RegimeCount, 12);
   EXPECT_EQ(Regime[12].Name, "R12");
@@ -309,12 +309,12 @@ TEST_F(ScenarioRobust, TruncatedFilesAtManyCutPoints) {
   cuts.push_back(plain.size() - 2);
   cuts.push_back(plain.size() - 1);
   for (const std::size_t cut : cuts) {
-    onlyclear();
+    ClearForLoad();
     ParseScenario(plain.substr(0, cut));
     ASSERT_EQ(RangeProblem(), "") << "cut at " << cut;
   }
   // Cut after the last field: all of it is read.
-  onlyclear();
+  ClearForLoad();
   ParseScenario(plain.substr(0, plain.size() - 2));
   EXPECT_EQ(EngineVar[999].Value, -12);
   EXPECT_EQ(SerializeScenario(), plain);
@@ -348,7 +348,7 @@ TEST_F(ScenarioRobust, RandomBytesNeverLeaveABadIndex) {
     std::uniform_int_distribution<int> any(0, 255);
     std::uniform_int_distribution<std::size_t> pick(0, alphabet.size() - 1);
     for (char& c : bytes) c = shaped ? alphabet[pick(gen)] : static_cast<char>(any(gen));
-    onlyclear();
+    ClearForLoad();
     ParseScenario(bytes);
     ASSERT_EQ(RangeProblem(), "") << "round " << round;
   }
@@ -371,7 +371,7 @@ TEST_F(ScenarioRobust, MutatedValidFilesNeverLeaveABadIndex) {
         default: bytes.erase(p, 1); break;
       }
     }
-    onlyclear();
+    ClearForLoad();
     ParseScenario(bytes);
     ASSERT_EQ(RangeProblem(), "") << "round " << round;
   }

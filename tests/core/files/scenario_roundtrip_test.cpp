@@ -36,7 +36,7 @@ TEST_F(ScenarioRoundTrip, EmptyTenByTenMap) {
   world::NewMap(10, 10);
   Game.BookVarCount = 200;
   const std::string first = SerializeScenario();
-  onlyclear();
+  ClearForLoad();
   EXPECT_EQ(ParseScenario(first), 111);
   EXPECT_EQ(Game.MapW, 10);
   EXPECT_EQ(Game.MapH, 10);
@@ -47,7 +47,7 @@ TEST_F(ScenarioRoundTrip, EmptyTenByTenMap) {
 TEST_F(ScenarioRoundTrip, RichScenarioKeepsEveryField) {
   BuildRichScenario();
   const std::string first = SerializeScenario();
-  onlyclear();
+  ClearForLoad();
   ASSERT_EQ(Game.UnitCount, 0);
   ASSERT_EQ(ParseScenario(first), 111);
 
@@ -245,7 +245,7 @@ TEST_F(ScenarioRoundTrip, ThroughScrambledFilesOnDisk) {
   const std::string plain = SerializeScenario();
   EXPECT_EQ(onDisk, Flipped(plain));  // saved scrambled: every top bit flipped
 
-  onlyclear();
+  ClearForLoad();
   platform.Clear();
   ASSERT_TRUE(ReadFile(path));
   EXPECT_EQ(Messages(), std::vector<std::string>{"Loaded"});

@@ -13,12 +13,12 @@ namespace world = test::world;
 
 class ResetTest : public CoreTest {};
 
-// ---- setup ------------------------------------------------------------------
+// ---- laying out the map window ---------------------------------------------
 
-TEST_F(ResetTest, SetupOfA10x10MapNeedsNoScrollBars) {
+TEST_F(ResetTest, MapWindowLayoutOfA10x10MapNeedsNoScrollBars) {
   Game.MapW = 10;
   Game.MapH = 10;
-  setup();
+  LayOutMapWindow();
   EXPECT_EQ(UI.PictureW, 490);   // 10 x 42 + 70
   EXPECT_EQ(UI.PictureH, 370);   // 10 x 30 + 70
   EXPECT_EQ(UI.ScrollMaxX, 0);   // 490 - 958 is below 0
@@ -30,10 +30,10 @@ TEST_F(ResetTest, SetupOfA10x10MapNeedsNoScrollBars) {
   EXPECT_EQ(UI.ScrollSmall, 100);
 }
 
-TEST_F(ResetTest, SetupOfA40x30Map) {
+TEST_F(ResetTest, MapWindowLayoutOfA40x30Map) {
   Game.MapW = 40;
   Game.MapH = 30;
-  setup();
+  LayOutMapWindow();
   EXPECT_EQ(UI.PictureW, 1750);  // 40 x 42 + 70
   EXPECT_EQ(UI.PictureH, 970);   // 30 x 30 + 70
   EXPECT_EQ(UI.ScrollMaxX, 792);  // 1750 - 958
@@ -45,10 +45,10 @@ TEST_F(ResetTest, SetupOfA40x30Map) {
   EXPECT_EQ(UI.ScrollSmall, 100);
 }
 
-TEST_F(ResetTest, SetupOfA100x100Map) {
+TEST_F(ResetTest, MapWindowLayoutOfA100x100Map) {
   Game.MapW = 100;
   Game.MapH = 100;
-  setup();
+  LayOutMapWindow();
   EXPECT_EQ(UI.PictureW, 4270);
   EXPECT_EQ(UI.PictureH, 3070);
   EXPECT_EQ(UI.ScrollMaxX, 3312);
@@ -59,11 +59,11 @@ TEST_F(ResetTest, SetupOfA100x100Map) {
   EXPECT_EQ(UI.ScrollLargeY, 562);  // 300 + Int(262.2)
 }
 
-TEST_F(ResetTest, SetupShowsOnlyTheBarThatIsNeeded) {
+TEST_F(ResetTest, MapWindowLayoutShowsOnlyTheBarThatIsNeeded) {
   // 23 x 42 + 70 = 1036 is 78 wider than the window; 12 x 30 + 70 = 430 fits.
   Game.MapW = 23;
   Game.MapH = 12;
-  setup();
+  LayOutMapWindow();
   EXPECT_EQ(UI.ScrollMaxX, 78);
   EXPECT_EQ(UI.ScrollMaxY, 0);
   EXPECT_TRUE(UI.ShowScrollX);
@@ -71,12 +71,12 @@ TEST_F(ResetTest, SetupShowsOnlyTheBarThatIsNeeded) {
   EXPECT_EQ(UI.ScrollLargeX, 307);  // 300 + Int(7.8)
 }
 
-TEST_F(ResetTest, SetupHoldsTheScrollPositionsToTheNewMaximum) {
+TEST_F(ResetTest, MapWindowLayoutHoldsTheScrollPositionsToTheNewMaximum) {
   Game.MapW = 40;
   Game.MapH = 30;
   UI.ScrollX = 3000;
   UI.ScrollY = 100;
-  setup();
+  LayOutMapWindow();
   EXPECT_EQ(UI.ScrollX, 792);
   EXPECT_EQ(UI.ScrollY, 100);
 }
@@ -86,44 +86,49 @@ TEST_F(ResetTest, EditorPanelShowsUnlessHiddenOrTheWindowIsNarrow) {
   Game.MapH = 10;
   UI.HideEditor = false;
   UI.WindowWidth = 1024;
-  setup();
+  LayOutMapWindow();
   EXPECT_TRUE(UI.ShowEditorPanel);
   UI.WindowWidth = 820;
-  setup();
+  LayOutMapWindow();
   EXPECT_TRUE(UI.ShowEditorPanel);
   UI.WindowWidth = 819;
-  setup();
+  LayOutMapWindow();
   EXPECT_FALSE(UI.ShowEditorPanel);
   UI.WindowWidth = 1024;
   UI.HideEditor = true;
-  setup();
+  LayOutMapWindow();
   EXPECT_FALSE(UI.ShowEditorPanel);
 }
 
 // ---- Make it so -------------------------------------------------------------
 
 TEST_F(ResetTest, MapSizesAreHeldTo10Through100) {
-  MakeItSo(true, "5", "250");
+  ClearGame(true, 5, 250);
   EXPECT_EQ(Game.MapW, 10);
   EXPECT_EQ(Game.MapH, 100);
-  MakeItSo(false, "250", "5");
+  ClearGame(false, 250, 5);
   EXPECT_EQ(Game.MapW, 100);
   EXPECT_EQ(Game.MapH, 10);
-  MakeItSo(false, "37", "12abc");
+  ClearGame(false, MapSizeFromText("37"), MapSizeFromText("12abc"));
   EXPECT_EQ(Game.MapW, 37);
   EXPECT_EQ(Game.MapH, 12);
-  MakeItSo(false, "abc", "-40");
+  ClearGame(false, MapSizeFromText("abc"), MapSizeFromText("-40"));
   EXPECT_EQ(Game.MapW, 10);
   EXPECT_EQ(Game.MapH, 10);
   // A fraction is rounded as any number stored in a whole field: 20.5 to the
   // even 20, 20.6 to 21.
-  MakeItSo(false, "20.5", "20.6");
+  ClearGame(false, MapSizeFromText("20.5"), MapSizeFromText("20.6"));
   EXPECT_EQ(Game.MapW, 20);
   EXPECT_EQ(Game.MapH, 21);
+  // A number far beyond any map is held like any other.
+  EXPECT_EQ(MapSizeFromText("99999999999"), 99999999999);
+  ClearGame(false, MapSizeFromText("99999999999"), MapSizeFromText(" 14"));
+  EXPECT_EQ(Game.MapW, 100);
+  EXPECT_EQ(Game.MapH, 14);
 }
 
 TEST_F(ResetTest, ANewMapIsAllGrass) {
-  MakeItSo(true, "12", "11");
+  ClearGame(true, 12, 11);
   for (int x = 1; x <= 12; ++x)
     for (int y = 1; y <= 11; ++y) EXPECT_EQ(Hex[x][y].Land, kGrass) << x << "," << y;
   // Outside the map nothing was made.
@@ -134,12 +139,12 @@ TEST_F(ResetTest, ANewMapIsAllGrass) {
 TEST_F(ResetTest, AClearLeavesTheSoundSwitchAndTheHiddenEditor) {
   UI.SoundOff = 1;
   UI.HideEditor = true;
-  MakeItSo(true, "10", "10");
+  ClearGame(true, 10, 10);
   EXPECT_EQ(UI.SoundOff, 1);
   EXPECT_TRUE(UI.HideEditor);
   UI.SoundOff = 0;
   UI.HideEditor = false;
-  MakeItSo(false, "10", "10");
+  ClearGame(false, 10, 10);
   EXPECT_EQ(UI.SoundOff, 0);
   EXPECT_FALSE(UI.HideEditor);
 }
@@ -153,7 +158,7 @@ TEST_F(ResetTest, HexesBeyondTheOldMapKeepTheirDataExceptLand) {
   Hex[5][5].Land = kForest;
   Hex[5][5].Owner = 2;
   // Shrink: the old 20 x 20 map is cleared, hex (15,15) with it.
-  MakeItSo(false, "10", "10");
+  ClearGame(false, 10, 10);
   EXPECT_EQ(Hex[15][15].Owner, 0);
   EXPECT_EQ(Hex[15][15].Land, kGrass);
   EXPECT_EQ(Hex[5][5].Owner, 0);
@@ -164,7 +169,7 @@ TEST_F(ResetTest, HexesBeyondTheOldMapKeepTheirDataExceptLand) {
   Hex[15][15].Pop = 500;
   Hex[15][15].Unit[1] = 9;
   Hex[15][15].Mark = 7;
-  MakeItSo(false, "20", "20");
+  ClearGame(false, 20, 20);
   EXPECT_EQ(Hex[15][15].Owner, 3);
   EXPECT_EQ(Hex[15][15].Pop, 500);
   EXPECT_EQ(Hex[15][15].Unit[1], 9);
@@ -195,7 +200,7 @@ TEST_F(ResetTest, HexesOfTheOldMapLoseEverySavedAndWorkingField) {
   h.ShqDist[50] = 7;
   h.NewsMark[1] = 1;
   h.Route[1][3] = 4;
-  MakeItSo(false, "12", "12");
+  ClearGame(false, 12, 12);
   EXPECT_EQ(h.Land, kGrass);
   EXPECT_EQ(h.Pop, 0);
   EXPECT_EQ(h.People, 0);
@@ -226,7 +231,7 @@ TEST_F(ResetTest, AClearOfEventsReachesEvents1To200Only) {
   Event[201].Story = "Kept";
   Event[500].TurnMax = 9;
   Game.EventCount = 201;
-  MakeItSo(true, "10", "10");
+  ClearGame(true, 10, 10);
   EXPECT_EQ(Event[1].Story, "");
   EXPECT_EQ(Event[1].Data[30], 0);
   EXPECT_EQ(Event[200].TurnMin, 0);
@@ -241,7 +246,7 @@ TEST_F(ResetTest, BookVariables1To200AreZeroedAndTheCountIs200) {
   Game.BookVar[200] = 6;
   Game.BookVar[201] = 7;
   Game.BookVarCount = 0;
-  MakeItSo(false, "10", "10");
+  ClearGame(false, 10, 10);
   EXPECT_EQ(Game.BookVar[1], 0);
   EXPECT_EQ(Game.BookVar[200], 0);
   EXPECT_EQ(Game.BookVar[201], 7);
@@ -289,7 +294,7 @@ TEST_F(ResetTest, SelectionsOrdersAttackersAndGameSwitchesAreZeroed) {
   Game.GraphicsDirty = 1;
   Game.DirMap = "\\mine\\map";
   Game.DirSound = "\\mine\\sound";
-  MakeItSo(false, "10", "10");
+  ClearGame(false, 10, 10);
   EXPECT_EQ(UI.SelX, 0);
   EXPECT_EQ(UI.SelY, 0);
   EXPECT_EQ(UI.SelSlot, 0);
@@ -341,7 +346,7 @@ TEST_F(ResetTest, OverlaysThePendingFileAndTheWindowStay) {
   UI.PendingFile = "next";
   UI.WindowWidth = 900;
   Game.FileVersion = 111;
-  MakeItSo(true, "10", "10");
+  ClearGame(true, 10, 10);
   EXPECT_EQ(UI.Overlay.ShowGrid, 1);
   EXPECT_EQ(UI.Overlay.ShowSupply, 1);
   EXPECT_EQ(UI.PendingFile, "next");
@@ -368,7 +373,7 @@ TEST_F(ResetTest, AllRegimeSlotsAndTheirTablesAreCleared) {
   Shq[r][1].CarrySea = 4;
   News[r][1000].Type = 101;
   News[20][1].Text = "old";
-  MakeItSo(false, "10", "10");
+  ClearGame(false, 10, 10);
   EXPECT_EQ(Regime[r].Name, "");
   EXPECT_EQ(Regime[r].FormationName, "");
   EXPECT_EQ(Regime[r].TextColor, "");
@@ -405,7 +410,7 @@ TEST_F(ResetTest, UnitsAndOfficersInUseAreCleared) {
   Officer[3].Regime = 1;
   Officer[4].Name = "Beyond the count";
   Game.OfficerCount = 3;
-  MakeItSo(false, "10", "10");
+  ClearGame(false, 10, 10);
   EXPECT_EQ(Unit[u].Name, "");
   EXPECT_EQ(Unit[u].Regime, 0);
   EXPECT_EQ(Unit[u].SupplyDemand, 0);
@@ -445,7 +450,7 @@ void MakeSomeRules() {
 TEST_F(ResetTest, AClearKeepingRulesKeepsRulesTypesPeoplesAndResearch) {
   world::NewMap(10, 10);
   MakeSomeRules();
-  MakeItSo(false, "10", "10");
+  ClearGame(false, 10, 10);
   EXPECT_EQ(EngineVar[533].Value, 7);
   EXPECT_EQ(EngineVar[13].Value, 8);
   EXPECT_EQ(Type[1].Name, "Rifles");
@@ -462,7 +467,7 @@ TEST_F(ResetTest, AClearKeepingRulesKeepsRulesTypesPeoplesAndResearch) {
 TEST_F(ResetTest, AFullClearResetsRulesTypesPeoplesAndResearchButNotResearchText) {
   world::NewMap(10, 10);
   MakeSomeRules();
-  MakeItSo(true, "10", "10");
+  ClearGame(true, 10, 10);
   EXPECT_EQ(EngineVar[533].Value, 3);
   EXPECT_EQ(EngineVar[616].Value, 20);  // set to 0, then back to its default
   EXPECT_EQ(EngineVar[13].Value, 8);    // defaults touch no other row
@@ -484,10 +489,10 @@ TEST_F(ResetTest, AFullClearResetsRulesTypesPeoplesAndResearchButNotResearchText
   EXPECT_EQ(Research[200].Name, "");
 }
 
-TEST_F(ResetTest, OnlyclearIsASilentFullClearToTheSmallestMap) {
+TEST_F(ResetTest, ClearForLoadIsASilentFullClearToTheSmallestMap) {
   world::NewMap(30, 30);
   MakeSomeRules();
-  onlyclear();
+  ClearForLoad();
   EXPECT_EQ(Game.MapW, 10);
   EXPECT_EQ(Game.MapH, 10);
   EXPECT_EQ(EngineVar[533].Value, 3);
@@ -497,7 +502,7 @@ TEST_F(ResetTest, OnlyclearIsASilentFullClearToTheSmallestMap) {
 
 TEST_F(ResetTest, AfterTheNewScenarioCommand) {
   UI.RegimeLabel = "North";
-  MakeItSo(true, "40", "30");
+  ClearGame(true, 40, 30);
   Game.FogOfWar = 1;
   AfterClearCommand(true);
   EXPECT_EQ(Game.FogOfWar, 0);
@@ -509,7 +514,7 @@ TEST_F(ResetTest, AfterTheNewScenarioCommand) {
 
 TEST_F(ResetTest, AfterTheClearMapCommandTheRegimeLabelStays) {
   UI.RegimeLabel = "North";
-  MakeItSo(false, "10", "10");
+  ClearGame(false, 10, 10);
   AfterClearCommand(false);
   EXPECT_EQ(UI.EditMode, 1);
   EXPECT_EQ(UI.RegimeLabel, "North");
@@ -540,7 +545,7 @@ TEST_F(ResetTest, RegimeSlots11To20StayEmptyInAGameOfTen) {
   }
   // The slots exist: writing and clearing them is safe.
   Regime[20].Name = "Stray";
-  MakeItSo(false, "10", "10");
+  ClearGame(false, 10, 10);
   EXPECT_EQ(Regime[20].Name, "");
 }
 

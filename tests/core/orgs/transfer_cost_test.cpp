@@ -1,4 +1,4 @@
-// The weight and cost of a transfer: the ten rules of calc_tr_cost, the
+// The weight and cost of a transfer: the ten rules of WorkOutCost, the
 // labels, and the mixing of experience, readiness and disruption.
 #include "orders/transfer.h"
 #include "orgs_test_util.h"
@@ -306,7 +306,7 @@ TEST_F(TransferCostTest, MixingIntoAFormation) {
   Route(2, 8, 1, 1);
   Open(2, 9, 2, 8);
   Do("inf", "50");
-  d.adjustxp();
+  d.MixIncomingFigures();
   // G = 500, H = 1000.
   EXPECT_EQ(Unit[src].Experience, 25);                     // raised for good
   EXPECT_EQ(Unit[dest].Experience, 41);                    // Int((500 x 25 + 1000 x 50) / 1500) = Int(41.7)
@@ -314,7 +314,7 @@ TEST_F(TransferCostTest, MixingIntoAFormation) {
   EXPECT_EQ(Unit[dest].Readiness, 66);                     // Int((500 x 40 + 1000 x 80) / 1500) = Int(66.7)
   // A calmer source leaves the disruption as it is.
   Unit[src].Disruption = 5;
-  d.adjustxp();
+  d.MixIncomingFigures();
   EXPECT_EQ(Unit[dest].Disruption, 20);
 }
 
@@ -329,7 +329,7 @@ TEST_F(TransferCostTest, MixingNeverBelow25AndTrucksBringNothing) {
   Route(2, 8, 1, 1);
   Open(2, 9, 2, 8);
   Do("mob", "4");
-  d.adjustxp();
+  d.MixIncomingFigures();
   // G = 0 (trucks do not count), H = 1000: D keeps its own, raised to 25.
   EXPECT_EQ(Unit[dest].Experience, 25);
   EXPECT_EQ(Unit[dest].Readiness, 25);
@@ -341,7 +341,7 @@ TEST_F(TransferCostTest, AnShqReceivingIsSetTo25) {
   Unit[other].Readiness = 90;
   Route(2, 8, 1, 1);
   Open(2, 2, 2, 8, 1, 2);
-  d.adjustxp();
+  d.MixIncomingFigures();
   EXPECT_EQ(Unit[other].Experience, 25);
   EXPECT_EQ(Unit[other].Readiness, 25);
 }

@@ -259,7 +259,7 @@ TEST_F(TransferFlowTest, TheComputerTransfersWithoutADialog) {
   TransferRequest.Qty[4] = 5;
   Shq[red][1].Carry = 10;  // far too little, which the computer does not ask
   Unit[dest].CounterPic = 1;
-  EXPECT_TRUE(dotransfer(true));
+  EXPECT_TRUE(RunTransfer(true));
   EXPECT_EQ(Unit[dest].InfQty, 1000);
   EXPECT_EQ(Unit[dest].ArmType, tank);
   EXPECT_EQ(Unit[dest].ArmQty, 5);
@@ -277,7 +277,7 @@ TEST_F(TransferFlowTest, TheComputerTransfersWithoutADialog) {
   Origin(2, 2);
   SupplyFlood(true);
   Select(2, 8);
-  EXPECT_TRUE(dotransfer(true));
+  EXPECT_TRUE(RunTransfer(true));
   EXPECT_NE(Unit[dest].CounterPic, 1);
 }
 
@@ -290,7 +290,7 @@ TEST_F(TransferFlowTest, TheComputerMovesSupplyBetweenShqs) {
   TransferRequest.Supply = 700;  // there are 500
   TransferRequest.Type[1] = rifle;
   TransferRequest.Qty[1] = 100;
-  EXPECT_TRUE(dotransfer(true));
+  EXPECT_TRUE(RunTransfer(true));
   EXPECT_EQ(Unit[other].SupplyPct, 500);
   EXPECT_EQ(Unit[shq].SupplyPct, 0);
   EXPECT_EQ(Shq[red][2].StockQty[1], 100);
@@ -299,7 +299,7 @@ TEST_F(TransferFlowTest, TheComputerMovesSupplyBetweenShqs) {
 TEST_F(TransferFlowTest, NothingToTransferBetweenWithoutADestination) {
   Origin(2, 2);
   Select(9, 9);
-  EXPECT_FALSE(dotransfer(true));
+  EXPECT_FALSE(RunTransfer(true));
 }
 
 

@@ -48,9 +48,9 @@ TEST_P(Soak, ThirtyRoundsWithEveryInvariantKeptAfterEveryRegimeTurn) {
   const fs::path copy = fs::path(tempDir) / GetParam().file;
   fs::copy_file(from, copy, fs::copy_options::overwrite_existing);
 
-  onlyclear();
+  ClearForLoad();
   ASSERT_TRUE(ReadFile(copy.string()));
-  setup();
+  LayOutMapWindow();
   std::string why;
   ASSERT_TRUE(StartComputerGame(&why)) << why;
   SeedRnd(GetParam().seed);

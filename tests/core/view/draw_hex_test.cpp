@@ -54,7 +54,7 @@ class DrawHexTest : public CoreTest {
         Hex[x][y].Vis = 3;
       }
     }
-    setup();
+    LayOutMapWindow();
     UI.ScrollX = 0;
     UI.ScrollY = 0;
   }
@@ -674,7 +674,7 @@ TEST_F(DrawHexTest, CenterMapInALargerWindow) {
   Play(100, 100);
   UI.ViewW = 1600;  // 1600 / 84 = 19, less one: 18 across
   UI.ViewH = 900;   // 900 / 60 = 15, less one: 14 down
-  setup();
+  LayOutMapWindow();
   CenterMap(50, 40);
   EXPECT_EQ(UI.ScrollX, 32 * 42);
   EXPECT_EQ(UI.ScrollY, 26 * 30);

@@ -71,7 +71,7 @@ TEST_F(ClearDialogTest, NewScenarioClearsEverythingToTheSizeGiven) {
   EXPECT_TRUE(UI.MapControlsShown);
   EXPECT_EQ(UI.RedrawRequest, 2);
   EXPECT_TRUE(UI.PanelDirty);
-  // setup ran for the new size: 10 x 42 + 70 by 100 x 30 + 70.
+  // The map window was laid out for the new size: 10 x 42 + 70 by 100 x 30 + 70.
   EXPECT_EQ(UI.PictureW, 490);
   EXPECT_EQ(UI.PictureH, 3070);
 }

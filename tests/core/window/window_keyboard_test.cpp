@@ -17,7 +17,7 @@ class KeyboardTest : public CoreTest {
     CoreTest::SetUp();
     world::NewMap(40, 30);
     UI.EditMode = 1;
-    setup();  // picture 1750 x 970, scroll ranges 792 and 522
+    LayOutMapWindow();  // picture 1750 x 970, scroll ranges 792 and 522
   }
   void Play(int turn) {
     UI.EditMode = 0;
@@ -135,7 +135,7 @@ TEST_F(KeyboardTest, TheWindowsOwnViewSizeDecidesHalfAScreen) {
 
 TEST_F(KeyboardTest, ASmallMapDoesNotScroll) {
   world::NewMap(10, 10);
-  setup();
+  LayOutMapWindow();
   EXPECT_FALSE(KeyDown(kKeyRight));
   EXPECT_FALSE(KeyDown(kKeyDown));
   EXPECT_EQ(UI.ScrollX, 0);

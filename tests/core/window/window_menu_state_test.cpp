@@ -20,7 +20,7 @@ class MenuStateTest : public CoreTest {
     UI.EditMode = 1;
     UI.HideEditor = true;
     UI.WindowWidth = 1024;
-    setup();
+    LayOutMapWindow();
   }
 };
 
