@@ -20,6 +20,7 @@
 #include "model/labels.h"
 #include "model/reset.h"
 #include "model/rnd.h"
+#include "platform/file_io.h"
 #include "platform/scripted_platform.h"
 #include "session.h"
 #include "view/counter.h"
@@ -105,7 +106,7 @@ class Parser {
       return;
     }
     std::string bytes, why;
-    if (!ReadBytes(path.string(), &bytes, &why)) {
+    if (!ReadWholeFile(path.string(), &bytes, &why)) {
       Error(path.string(), "cannot read the file: " + why);
       return;
     }
