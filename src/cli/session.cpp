@@ -1,24 +1,9 @@
 #include "session.h"
 
 #include <filesystem>
-#include <iterator>
 
-#include "model/engine_vars.h"
-#include "model/game_state.h"
-#include "model/reset.h"
-#include "model/rnd.h"
 
 namespace mf::cli {
-
-void StartFresh(std::uint32_t seed) {
-  ZeroAllTables();
-  FillEngineVarLabels();
-  SetEngineVarDefaults();
-  SeedRnd(seed);
-  UI.EditMode = 1;
-  UI.HideEditor = true;
-  setup();
-}
 
 bool MapSizeWords(const std::string& w, const std::string& h, std::string* why) {
   auto whole = [](const std::string& s) {

@@ -3,7 +3,7 @@
 #include <filesystem>
 #include <ostream>
 
-#include "compile_content.h"
+#include "compile_command.h"
 #include "files/json_io.h"
 #include "files/scenario_file.h"
 #include "files/scenario_schema.h"

@@ -4,6 +4,7 @@
 #include "model/engine_vars.h"
 #include "model/game_state.h"
 #include "model/hex_geometry.h"
+#include "model/rnd.h"
 
 namespace mf {
 namespace {
@@ -25,6 +26,16 @@ int Held(long count, int cap) {
 }
 
 }  // namespace
+
+void StartFresh(std::uint32_t seed) {
+  ZeroAllTables();
+  FillEngineVarLabels();
+  SetEngineVarDefaults();
+  SeedRnd(seed);
+  UI.EditMode = 1;
+  UI.HideEditor = true;
+  setup();
+}
 
 void setup() {
   UI.PictureW = MapPictureW();
