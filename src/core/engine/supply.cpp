@@ -6,6 +6,7 @@
 
 #include "engine/supply_flood.h"
 #include "model/arith.h"
+#include "model/bounds.h"
 #include "model/game_state.h"
 #include "model/hex_geometry.h"
 #include "orders/flood.h"
@@ -13,8 +14,6 @@
 namespace mf {
 namespace {
 
-int MapW() { return std::clamp<int>(Game.MapW, 0, kMapCap); }
-int MapH() { return std::clamp<int>(Game.MapH, 0, kMapCap); }
 
 
 // Largest whole number not above a / b, for a positive b.
@@ -251,7 +250,7 @@ void ServeOne(int shq, int r) {
 }  // namespace
 
 void ServeSupply() {
-  const int r = ValidRegime(Game.CurRegime) ? static_cast<int>(Game.CurRegime) : 0;
+  const int r = CurrentRegime();
   for (int x = 1; x <= MapW(); ++x)
     for (int y = 1; y <= MapH(); ++y)
       for (int s = 0; s <= kShqCap; ++s) Hex[x][y].ShqDist[s] = 999;

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "model/arith.h"
+#include "model/bounds.h"
 #include "model/game_state.h"
 #include "model/hex_geometry.h"
 #include "orders/flood.h"
@@ -13,9 +14,6 @@ namespace mf {
 namespace {
 
 constexpr int kOut = 999;  // cost of a hex out of reach
-
-int MapW() { return std::clamp<int>(Game.MapW, 0, kMapCap); }
-int MapH() { return std::clamp<int>(Game.MapH, 0, kMapCap); }
 
 // Costs are whole numbers well inside 16 bits for any sane rule set; a rule
 // set with absurd costs is held at the edge of the field rather than wrapped.

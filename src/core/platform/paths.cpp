@@ -1,10 +1,11 @@
 #include "platform/paths.h"
 
 #include <algorithm>
-#include <cctype>
 #include <cstdlib>
 #include <filesystem>
 #include <system_error>
+
+#include "platform/text_case.h"
 
 namespace fs = std::filesystem;
 
@@ -15,10 +16,6 @@ std::string& Dir() {
   return dir;
 }
 
-std::string Lower(std::string s) {
-  std::transform(s.begin(), s.end(), s.begin(), [](unsigned char c) { return std::tolower(c); });
-  return s;
-}
 }  // namespace
 
 void SetProgramDir(const std::string& dir) { Dir() = dir.empty() ? "." : dir; }
