@@ -1,6 +1,5 @@
 #include "content_source.h"
 
-#include <algorithm>
 #include <cctype>
 #include <filesystem>
 #include <utility>
@@ -23,11 +22,6 @@ std::string TrimRight(std::string s) {
 bool IsLayer(const std::string& kind) { return kind == "land" || kind == "owner" || kind == "roads"; }
 
 }  // namespace
-
-std::string Lower(std::string s) {
-  std::transform(s.begin(), s.end(), s.begin(), [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
-  return s;
-}
 
 std::string TrimAll(const std::string& s) {
   std::size_t a = 0;

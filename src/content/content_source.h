@@ -9,6 +9,8 @@
 #include <string>
 #include <vector>
 
+#include "platform/text_case.h"
+
 namespace mf::content {
 
 struct Entry {
@@ -40,7 +42,6 @@ void ParseSourceText(const std::string& text, const std::string& name, std::vect
                      std::vector<std::string>* errors);
 
 // Small text helpers the compiler shares with the reader.
-std::string Lower(std::string s);
 std::string TrimAll(const std::string& s);
 // The field name of a key without its index: "DataText[2]" -> "DataText".
 std::string BareField(const std::string& key);
