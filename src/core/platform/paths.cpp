@@ -90,6 +90,4 @@ std::string Made(const fs::path& dir) {
 
 std::string UserGameDir() { return Made(XdgDir("XDG_DATA_HOME", ".local/share") / "marrowfield"); }
 
-std::string UserSettingsDir() { return Made(XdgDir("XDG_CONFIG_HOME", ".config") / "marrowfield"); }
-
 }  // namespace mf
