@@ -24,6 +24,7 @@
 #include <ctime>
 #include <filesystem>
 #include <map>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -46,7 +47,17 @@ namespace fs = std::filesystem;
 
 constexpr unsigned kSeed = 7;
 
-ScriptedPlatform gGamePlatform;
+// The platform, made anew for every load: the officers a turn makes are
+// drawn from its clock, which then starts again at the same tick, so that
+// every iteration plays the very same turn.
+std::unique_ptr<ScriptedPlatform> gGamePlatform;
+
+void FreshPlatform() {
+  auto fresh = std::make_unique<ScriptedPlatform>();
+  fresh->keepAnalysis = false;
+  InstallPlatform(fresh.get());
+  gGamePlatform = std::move(fresh);
+}
 
 // The saved games after so many first rounds; each made once per run of
 // the program.
@@ -56,6 +67,7 @@ struct RemoveSaved {
   ~RemoveSaved() {
     std::error_code ec;
     for (const auto& [rounds, path] : gSaved) fs::remove(path, ec);
+    InstallPlatform(nullptr);
   }
 } gRemoveSaved;
 
@@ -86,8 +98,7 @@ bool MakeSavedGame(int roundsBefore) {
   if (gSaved.count(roundsBefore) != 0) return true;
   if (!gWhyNot.empty()) return false;
   SetProgramDir(FindProgramDir(ExecutableDir()));
-  gGamePlatform.keepAnalysis = false;
-  InstallPlatform(&gGamePlatform);
+  FreshPlatform();
   ZeroAllTables();
   FillEngineVarLabels();
   SetEngineVarDefaults();
@@ -98,7 +109,7 @@ bool MakeSavedGame(int roundsBefore) {
   std::vector<DialogAction> actions;
   if (!RandomDialogActions({"size=100", "land=60", "regimes=10", "seed=7"}, &actions, &gWhyNot)) return false;
   actions.push_back({"start", ""});
-  gGamePlatform.QueueDialog("random", std::move(actions));
+  gGamePlatform->QueueDialog("random", std::move(actions));
   std::string refusal;
   if (!MakeRandomScenario(&refusal)) {
     gWhyNot = "no random map was made: " + refusal + " (are the scenarios beside mfbench?)";
@@ -123,7 +134,7 @@ bool MakeSavedGame(int roundsBefore) {
       gWhyNot = "the game ended before round " + std::to_string(roundsBefore);
       return false;
     }
-    gGamePlatform.Clear();
+    gGamePlatform->Clear();
     if (RoundComplete()) ++rounds;
   }
   if (!WriteFile(path)) {
@@ -136,6 +147,7 @@ bool MakeSavedGame(int roundsBefore) {
 
 // Back to the game after the first rounds, the generator on a fixed seed.
 void Restore(benchmark::State& state) {
+  FreshPlatform();
   if (!Load(gSaved.at(static_cast<int>(state.range(0))))) {
     state.SkipWithError("cannot load the saved game again");
     return;
@@ -143,7 +155,6 @@ void Restore(benchmark::State& state) {
   std::string why;
   StartComputerGame(&why);
   SeedRnd(kSeed);
-  gGamePlatform.Clear();
 }
 
 // Formations of all regimes: how big the armies have grown.
