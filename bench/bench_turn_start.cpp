@@ -68,4 +68,26 @@ void BM_SupplyFloodOneShq(benchmark::State& state) {
 }
 BENCHMARK(BM_SupplyFloodOneShq)->Unit(benchmark::kMicrosecond);
 
+// The same flood as the turn start runs it for each SHQ: the map's ground
+// read once for all SHQs beforehand, the results kept out of the hex records.
+void BM_SupplyFloodInRun(benchmark::State& state) {
+  BuildTurnWorld();
+  const int shq = Shq[1][7].Unit;
+  int ox = 0, oy = 0, slot = 0;
+  for (int x = 1; x <= 100; ++x)
+    for (int y = 1; y <= 100; ++y)
+      for (int s = 1; s <= kStackSlots; ++s)
+        if (Hex[x][y].Unit[s] == shq) {
+          ox = x;
+          oy = y;
+          slot = s;
+        }
+  BeginFloodRun();
+  for (auto _ : state) {
+    RunFlood(ox, oy, slot, true);
+    benchmark::ClobberMemory();
+  }
+}
+BENCHMARK(BM_SupplyFloodInRun)->Unit(benchmark::kMicrosecond);
+
 }  // namespace

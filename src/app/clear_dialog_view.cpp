@@ -43,9 +43,8 @@ void ShowClearDialog(mf::HumbleDialog& humble, QWidget* parent) {
     window.accept();
   });
   SetMainAction(&window, makeItSo);
-  window.exec();
   // Closed by its frame: nothing is cleared.
-  if (dialog->IsOpen()) dialog->Cancel();
+  RunDialogWindow(window, *dialog, [dialog] { dialog->Cancel(); });
 }
 
 }  // namespace

@@ -104,22 +104,10 @@ void ShowCurrentUnit(mf::HumbleDialog& humble, QWidget* parent) {
     dialog->PickType(row + 1, &why);
     refresh();
   });
-  QObject::connect(setClass, &QPushButton::clicked, &window, [dialog, qty, refresh] {
-    dialog->SetClassButton(qty->text().toStdString());
-    refresh();
-  });
-  QObject::connect(copy, &QPushButton::clicked, &window, [dialog, refresh] {
-    dialog->CopyFromButton();
-    refresh();
-  });
-  QObject::connect(stock, &QPushButton::clicked, &window, [dialog, refresh] {
-    dialog->StockButton();
-    refresh();
-  });
-  QObject::connect(close, &QPushButton::clicked, &window, [dialog, refresh] {
-    dialog->CloseButton();
-    refresh();
-  });
+  OnPress(setClass, &window, refresh, [dialog, qty] { dialog->SetClassButton(qty->text().toStdString()); });
+  OnPress(copy, &window, refresh, [dialog] { dialog->CopyFromButton(); });
+  OnPress(stock, &window, refresh, [dialog] { dialog->StockButton(); });
+  OnPress(close, &window, refresh, [dialog] { dialog->CloseButton(); });
   QObject::connect(table, &QTableWidget::itemChanged, &window, [dialog, table, refresh](QTableWidgetItem* item) {
     if (item->column() != 1) return;
     const std::string name = table->item(item->row(), 0)->text().toStdString();
@@ -129,8 +117,7 @@ void ShowCurrentUnit(mf::HumbleDialog& humble, QWidget* parent) {
     QMetaObject::invokeMethod(table, refresh, Qt::QueuedConnection);
   });
   refresh();
-  if (dialog->IsOpen()) window.exec();
-  if (dialog->IsOpen()) dialog->CloseButton();
+  RunDialogWindow(window, *dialog, [dialog] { dialog->CloseButton(); });
 }
 
 }  // namespace

@@ -1,5 +1,7 @@
 #include "dialog_views.h"
 
+#include <QApplication>
+#include <QCursor>
 #include <map>
 
 #include "battle_view.h"
@@ -29,6 +31,14 @@ void RegisterDialogView(const std::string& name, DialogViewFn view) { Views()[na
 DialogViewFn FindDialogView(const std::string& name) {
   auto it = Views().find(name);
   return it == Views().end() ? DialogViewFn() : it->second;
+}
+
+void RunDialogWindow(QDialog& window, const mf::HumbleDialog& dialog, const std::function<void()>& closedByFrame,
+                     DialogPointer pointer) {
+  if (pointer == DialogPointer::kArrow) QApplication::setOverrideCursor(QCursor(Qt::ArrowCursor));
+  if (dialog.IsOpen()) window.exec();
+  if (pointer == DialogPointer::kArrow) QApplication::restoreOverrideCursor();
+  if (dialog.IsOpen() && closedByFrame) closedByFrame();
 }
 
 void RegisterAllDialogViews() {

@@ -3,6 +3,7 @@
 // runs a dialog through the view registered for its name.
 #pragma once
 
+#include <QDialog>
 #include <QWidget>
 #include <functional>
 #include <string>
@@ -19,5 +20,18 @@ void RegisterDialogView(const std::string& name, DialogViewFn view);
 DialogViewFn FindDialogView(const std::string& name);
 // Registers the views of every module (one line per module).
 void RegisterAllDialogViews();
+
+// How the pointer looks while a dialog's window is up: as it was, or the
+// ordinary arrow for a window that comes up while the turn changes hands
+// under the busy pointer.
+enum class DialogPointer { kAsItIs, kArrow };
+
+// Runs a dialog's window modally while the dialog is open; exec() runs the
+// event loop, so the main window's timer keeps ticking. A window closed by
+// Esc or its frame while the dialog is still open gets `closedByFrame`, the
+// dialog's own close, cancel or exit, so that its close rules hold whichever
+// way the window went.
+void RunDialogWindow(QDialog& window, const mf::HumbleDialog& dialog, const std::function<void()>& closedByFrame,
+                     DialogPointer pointer = DialogPointer::kAsItIs);
 
 }  // namespace mf::app

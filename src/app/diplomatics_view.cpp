@@ -89,10 +89,8 @@ void ShowDiplomatics(mf::HumbleDialog& humble, QWidget* parent) {
     refresh();
   });
   refresh();
-  // exec() runs the event loop, so the main window's timer keeps ticking.
-  if (dialog->IsOpen()) window.exec();
   // Esc and the frame's close button close it as Close does.
-  if (dialog->IsOpen()) dialog->CloseButton();
+  RunDialogWindow(window, *dialog, [dialog] { dialog->CloseButton(); });
 }
 
 }  // namespace

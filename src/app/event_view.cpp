@@ -99,13 +99,10 @@ void ShowEvent(mf::HumbleDialog& humble, QWidget* parent) {
     if (!dialog->IsOpen()) window.accept();
   });
 
+  SetMainAction(&window, ok);
   // Events are shown while the turn changes hands under the busy pointer;
   // the player reading one gets the ordinary pointer.
-  QApplication::setOverrideCursor(QCursor(Qt::ArrowCursor));
-  // exec() runs the event loop, so the main window's timer keeps ticking.
-  SetMainAction(&window, ok);
-  if (dialog->IsOpen()) window.exec();
-  QApplication::restoreOverrideCursor();
+  RunDialogWindow(window, *dialog, {}, DialogPointer::kArrow);
 }
 
 }  // namespace

@@ -105,11 +105,6 @@ void ShowGeneral(mf::HumbleDialog& humble, QWidget* parent) {
   bottom->addWidget(close);
   layout->addLayout(bottom);
 
-  auto show = [](QLineEdit* edit, const std::string& value) {
-    const QSignalBlocker block(edit);
-    edit->setText(Q(value));
-    edit->setModified(false);
-  };
   auto showText = [](QPlainTextEdit* edit, const std::string& value) {
     if (edit->hasFocus()) return;
     const QSignalBlocker block(edit);
@@ -120,7 +115,7 @@ void ShowGeneral(mf::HumbleDialog& humble, QWidget* parent) {
     for (int k = 0; k < 6 && k < static_cast<int>(dialog->generalFields.size()); ++k) {
       const auto& f = dialog->generalFields[static_cast<std::size_t>(k)];
       qobject_cast<QLabel*>(genForm->labelForField(genBoxes[static_cast<std::size_t>(k)]))->setText(Q(f.label));
-      show(genBoxes[static_cast<std::size_t>(k)], f.value);
+      ShowValue(genBoxes[static_cast<std::size_t>(k)], f.value);
     }
     showText(story, dialog->storyValue);
     FillList(fields, dialog->eventFieldRows, -1);
@@ -159,13 +154,9 @@ void ShowGeneral(mf::HumbleDialog& humble, QWidget* parent) {
     refresh();
   });
   for (int k = 0; k < 6; ++k) {
-    QLineEdit* e = genBoxes[static_cast<std::size_t>(k)];
-    QObject::connect(e, &QLineEdit::editingFinished, &window, [dialog, e, k, refresh] {
-      if (!e->isModified()) return;
-      e->setModified(false);
-      if (k == 0) dialog->SetGameEndPop(e->text().toStdString());
-      else dialog->SetFolder(k - 1, e->text().toStdString());
-      refresh();
+    OnEdited(genBoxes[static_cast<std::size_t>(k)], &window, refresh, [dialog, k](const std::string& v) {
+      if (k == 0) dialog->SetGameEndPop(v);
+      else dialog->SetFolder(k - 1, v);
     });
   }
   QObject::connect(eventBox, &QLineEdit::returnPressed, &window, [dialog, eventBox, refresh] {
@@ -176,17 +167,10 @@ void ShowGeneral(mf::HumbleDialog& humble, QWidget* parent) {
                    [dialog, story] { dialog->SetStory(story->toPlainText().toStdString()); });
   QObject::connect(evStory, &QPlainTextEdit::textChanged, &window,
                    [dialog, evStory] { dialog->SetEventStory(evStory->toPlainText().toStdString()); });
-  QObject::connect(copy, &QPushButton::clicked, &window, [dialog, refresh] {
-    dialog->CopyButton();
-    refresh();
-  });
-  QObject::connect(close, &QPushButton::clicked, &window, [dialog, refresh] {
-    dialog->CloseButton();
-    refresh();
-  });
+  OnPress(copy, &window, refresh, [dialog] { dialog->CopyButton(); });
+  OnPress(close, &window, refresh, [dialog] { dialog->CloseButton(); });
   refresh();
-  if (dialog->IsOpen()) window.exec();
-  if (dialog->IsOpen()) dialog->CloseButton();
+  RunDialogWindow(window, *dialog, [dialog] { dialog->CloseButton(); });
 }
 
 }  // namespace

@@ -13,6 +13,7 @@
 #include <cmath>
 
 #include "control/selection.h"
+#include "model/bounds.h"
 #include "model/game_state.h"
 #include "model/hex_geometry.h"
 #include "model/reset.h"
@@ -325,8 +326,8 @@ void MapView::DrawReachOutline(QPainter& p) {
   static const QPoint kCorner[6] = {{-21, -10}, {0, -20}, {21, -10}, {21, 10}, {0, 20}, {-21, 10}};
   auto reach = [](int x, int y) { return ValidHex(x, y) && Hex[x][y].Mark < 999; };
   QPainterPath edge;
-  const int w = Game.MapW < kMapCap ? static_cast<int>(Game.MapW) : kMapCap;
-  const int h = Game.MapH < kMapCap ? static_cast<int>(Game.MapH) : kMapCap;
+  const int w = MapW();
+  const int h = MapH();
   const QRect seen = rect().adjusted(-50 * z, -50 * z, 50 * z, 50 * z);
   for (int x = 1; x <= w; ++x) {
     for (int y = 1; y <= h; ++y) {

@@ -4,6 +4,7 @@
 #include <QPainter>
 #include <vector>
 
+#include "model/bounds.h"
 #include "model/game_state.h"
 #include "model/hex_geometry.h"
 #include "qt_canvas.h"
@@ -73,8 +74,8 @@ Minimap::Minimap(QWidget* parent) : QWidget(parent) {
 }
 
 void Minimap::Rebuild() {
-  const int w = static_cast<int>(Game.MapW);
-  const int h = static_cast<int>(Game.MapH);
+  const int w = MapW();
+  const int h = MapH();
   if (w < 1 || h < 1) {
     image_ = QImage();
     update();

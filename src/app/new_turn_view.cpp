@@ -152,10 +152,7 @@ void ShowNewTurn(mf::HumbleDialog& humble, QWidget* parent) {
 
   // The turn changes hands under the busy pointer; the player reading his
   // report gets the ordinary one.
-  QApplication::setOverrideCursor(QCursor(Qt::ArrowCursor));
-  // exec() runs the event loop, so the main window's timer keeps ticking.
-  if (dialog->IsOpen()) window.exec();
-  QApplication::restoreOverrideCursor();
+  RunDialogWindow(window, *dialog, {}, DialogPointer::kArrow);
 }
 
 }  // namespace

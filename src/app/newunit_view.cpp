@@ -46,13 +46,11 @@ void ShowNewUnit(mf::HumbleDialog& humble, QWidget* parent) {
     window.accept();
   });
 
-  // exec() runs the event loop, so the main window's timer keeps ticking.
-  if (dialog->IsOpen()) window.exec();
   // Esc and the frame's close button cancel.
-  if (dialog->IsOpen()) {
+  RunDialogWindow(window, *dialog, [dialog] {
     std::string why;
     dialog->Cancel(&why);
-  }
+  });
 }
 
 }  // namespace

@@ -152,14 +152,16 @@ void ShowOfficerPool(mf::HumbleDialog& humble, QWidget* parent) {
   button(del, [dialog](std::string* why) { return dialog->Delete(why); });
   button(reset, [dialog](std::string* why) { return dialog->ResetUnitOfficer(why); });
   refresh();
+  // The window opens with the focus on Close: the pool list, taking the focus
+  // first, would pick its first officer on its own, and the player would find
+  // an officer chosen that he never pressed.
+  close->setFocus(Qt::OtherFocusReason);
 
-  // exec() runs the event loop, so the main window's timer keeps ticking.
-  if (dialog->IsOpen()) window.exec();
   // Esc and the frame's close button close it as Close does.
-  if (dialog->IsOpen()) {
+  RunDialogWindow(window, *dialog, [dialog] {
     std::string why;
     dialog->Close(&why);
-  }
+  });
 }
 
 }  // namespace

@@ -182,11 +182,8 @@ void ShowRandomScenario(mf::HumbleDialog& humble, QWidget* parent) {
   QObject::connect(cancel, &QPushButton::clicked, &window, [&window] { window.reject(); });
   refresh();
 
-  QApplication::setOverrideCursor(QCursor(Qt::ArrowCursor));
-  window.exec();
-  QApplication::restoreOverrideCursor();
   // Cancel, Esc and the frame's close all cancel.
-  if (dialog->IsOpen()) dialog->CancelButton();
+  RunDialogWindow(window, *dialog, [dialog] { dialog->CancelButton(); }, DialogPointer::kArrow);
 }
 
 }  // namespace

@@ -111,11 +111,6 @@ void ShowRegimes(mf::HumbleDialog& humble, QWidget* parent) {
   peopleLayout->addWidget(close);
   layout->addWidget(peopleBox, 1);
 
-  auto show = [](QLineEdit* edit, const std::string& value) {
-    const QSignalBlocker block(edit);
-    edit->setText(Q(value));
-    edit->setModified(false);
-  };
   auto fillNames = [](QListWidget* list, const std::vector<std::string>& rows) {
     const QSignalBlocker block(list);
     if (list->count() != static_cast<int>(rows.size())) {
@@ -132,15 +127,15 @@ void ShowRegimes(mf::HumbleDialog& humble, QWidget* parent) {
   std::vector<QWidget*> peopleEdits{pName, overrule, first, last};
   auto refresh = [=, &window] {
     FillList(regimes, dialog->regimeRows, dialog->regimeRow);
-    show(name, dialog->nameValue);
-    show(hexColor, dialog->hexColorValue);
-    show(people, dialog->peopleValue);
+    ShowValue(name, dialog->nameValue);
+    ShowValue(hexColor, dialog->hexColorValue);
+    ShowValue(people, dialog->peopleValue);
     peopleName->setText(Q(dialog->peopleName));
-    show(pp, dialog->ppValue);
-    show(formation, dialog->formationValue);
-    show(email, dialog->emailValue);
-    show(sets, dialog->setsValue);
-    show(intro, dialog->introValue);
+    ShowValue(pp, dialog->ppValue);
+    ShowValue(formation, dialog->formationValue);
+    ShowValue(email, dialog->emailValue);
+    ShowValue(sets, dialog->setsValue);
+    ShowValue(intro, dialog->introValue);
     {
       const QSignalBlocker block(ai);
       ai->setChecked(dialog->aiValue);
@@ -148,42 +143,28 @@ void ShowRegimes(mf::HumbleDialog& humble, QWidget* parent) {
     colourText->setText(Q(dialog->textColorValue));
     for (QWidget* w : regimeEdits) w->setEnabled(dialog->selected != 0);
     FillList(peoples, dialog->peopleRows, dialog->peopleRow);
-    show(pName, dialog->peopleNameValue);
-    show(overrule, dialog->overruleValue);
+    ShowValue(pName, dialog->peopleNameValue);
+    ShowValue(overrule, dialog->overruleValue);
     fillNames(first, dialog->firstNames);
     fillNames(last, dialog->lastNames);
     for (QWidget* w : peopleEdits) w->setEnabled(dialog->selectedPeople != 0);
     if (!dialog->IsOpen()) window.accept();
   };
-  auto button = [&window, refresh](QPushButton* b, auto action) {
-    QObject::connect(b, &QPushButton::clicked, &window, [action, refresh] {
-      action();
-      refresh();
-    });
-  };
-  auto edited = [&window, refresh](QLineEdit* edit, auto action) {
-    QObject::connect(edit, &QLineEdit::editingFinished, &window, [edit, action, refresh] {
-      if (!edit->isModified()) return;
-      edit->setModified(false);
-      action(edit->text().toStdString());
-      refresh();
-    });
-  };
-  button(newRegime, [dialog] { dialog->NewButton(); });
-  button(del, [dialog] { dialog->DeleteButton(); });
-  button(colour, [dialog] { dialog->ColourButton(); });
-  button(newPeople, [dialog] { dialog->NewPeopleButton(); });
-  button(close, [dialog] { dialog->CloseButton(); });
-  edited(name, [dialog](const std::string& v) { dialog->SetName(v); });
-  edited(hexColor, [dialog](const std::string& v) { dialog->SetHexColor(v); });
-  edited(people, [dialog](const std::string& v) { dialog->SetPeople(v); });
-  edited(pp, [dialog](const std::string& v) { dialog->SetPP(v); });
-  edited(formation, [dialog](const std::string& v) { dialog->SetFormation(v); });
-  edited(email, [dialog](const std::string& v) { dialog->SetEmail(v); });
-  edited(sets, [dialog](const std::string& v) { dialog->SetPortraitSets(v); });
-  edited(intro, [dialog](const std::string& v) { dialog->SetIntro(v); });
-  edited(pName, [dialog](const std::string& v) { dialog->SetPeopleName(v); });
-  edited(overrule, [dialog](const std::string& v) { dialog->SetOverrule(v); });
+  OnPress(newRegime, &window, refresh, [dialog] { dialog->NewButton(); });
+  OnPress(del, &window, refresh, [dialog] { dialog->DeleteButton(); });
+  OnPress(colour, &window, refresh, [dialog] { dialog->ColourButton(); });
+  OnPress(newPeople, &window, refresh, [dialog] { dialog->NewPeopleButton(); });
+  OnPress(close, &window, refresh, [dialog] { dialog->CloseButton(); });
+  OnEdited(name, &window, refresh, [dialog](const std::string& v) { dialog->SetName(v); });
+  OnEdited(hexColor, &window, refresh, [dialog](const std::string& v) { dialog->SetHexColor(v); });
+  OnEdited(people, &window, refresh, [dialog](const std::string& v) { dialog->SetPeople(v); });
+  OnEdited(pp, &window, refresh, [dialog](const std::string& v) { dialog->SetPP(v); });
+  OnEdited(formation, &window, refresh, [dialog](const std::string& v) { dialog->SetFormation(v); });
+  OnEdited(email, &window, refresh, [dialog](const std::string& v) { dialog->SetEmail(v); });
+  OnEdited(sets, &window, refresh, [dialog](const std::string& v) { dialog->SetPortraitSets(v); });
+  OnEdited(intro, &window, refresh, [dialog](const std::string& v) { dialog->SetIntro(v); });
+  OnEdited(pName, &window, refresh, [dialog](const std::string& v) { dialog->SetPeopleName(v); });
+  OnEdited(overrule, &window, refresh, [dialog](const std::string& v) { dialog->SetOverrule(v); });
   QObject::connect(ai, &QCheckBox::toggled, &window, [dialog, refresh](bool on) {
     dialog->SetAI(on);
     refresh();
@@ -205,8 +186,7 @@ void ShowRegimes(mf::HumbleDialog& humble, QWidget* parent) {
     dialog->SetLastName(last->row(item) + 1, item->text().toStdString());
   });
   refresh();
-  if (dialog->IsOpen()) window.exec();
-  if (dialog->IsOpen()) dialog->CloseButton();
+  RunDialogWindow(window, *dialog, [dialog] { dialog->CloseButton(); });
 }
 
 }  // namespace

@@ -19,15 +19,6 @@
 namespace mf::app {
 namespace {
 
-
-// A line edit shows the dialog's value unless the person is typing in it.
-void Show(QLineEdit* edit, const std::string& value) {
-  if (edit->hasFocus() && edit->isModified()) return;
-  const QSignalBlocker block(edit);
-  edit->setText(Q(value));
-  edit->setModified(false);
-}
-
 void ShowResearch(mf::HumbleDialog& humble, QWidget* parent) {
   auto* dialog = dynamic_cast<mf::ResearchDialog*>(&humble);
   if (!dialog) return;
@@ -130,8 +121,8 @@ void ShowResearch(mf::HumbleDialog& humble, QWidget* parent) {
     number->setText(Q(dialog->detailNumber));
     points->setText(Q(dialog->pointsLabel));
     editPart->setVisible(dialog->editButtonsShown);
-    Show(cost, dialog->costValue);
-    Show(fieldText, dialog->textValue);
+    ShowValue(cost, dialog->costValue);
+    ShowValue(fieldText, dialog->textValue);
     if (!dialog->IsOpen()) window.accept();
   };
   auto select = [dialog, refresh](const std::vector<int>& fields, int row) {
@@ -151,20 +142,14 @@ void ShowResearch(mf::HumbleDialog& humble, QWidget* parent) {
   QObject::connect(offer, &QListWidget::itemClicked, &window,
                    [dialog, select, offer](QListWidgetItem* item) { select(dialog->offerFields, offer->row(item)); });
 
-  auto button = [&window, refresh](QPushButton* b, auto action) {
-    QObject::connect(b, &QPushButton::clicked, &window, [action, refresh] {
-      action();
-      refresh();
-    });
-  };
-  button(buy, [dialog] { dialog->BuyButton(); });
-  button(close, [dialog] { dialog->CloseButton(); });
-  button(del, [dialog] { dialog->DeleteButton(); });
-  button(numberButton, [dialog] { dialog->NumberButton(); });
-  button(nameButton, [dialog] { dialog->NameButton(); });
-  button(need1Button, [dialog] { dialog->NeedButton(1); });
-  button(need2Button, [dialog] { dialog->NeedButton(2); });
-  button(wipe, [dialog] { dialog->WipeButton(); });
+  OnPress(buy, &window, refresh, [dialog] { dialog->BuyButton(); });
+  OnPress(close, &window, refresh, [dialog] { dialog->CloseButton(); });
+  OnPress(del, &window, refresh, [dialog] { dialog->DeleteButton(); });
+  OnPress(numberButton, &window, refresh, [dialog] { dialog->NumberButton(); });
+  OnPress(nameButton, &window, refresh, [dialog] { dialog->NameButton(); });
+  OnPress(need1Button, &window, refresh, [dialog] { dialog->NeedButton(1); });
+  OnPress(need2Button, &window, refresh, [dialog] { dialog->NeedButton(2); });
+  OnPress(wipe, &window, refresh, [dialog] { dialog->WipeButton(); });
   QObject::connect(cost, &QLineEdit::editingFinished, &window, [dialog, cost, refresh] {
     if (!cost->isModified()) return;
     cost->setModified(false);
@@ -178,11 +163,8 @@ void ShowResearch(mf::HumbleDialog& humble, QWidget* parent) {
     refresh();
   });
   refresh();
-  // The main window takes no clicks while the dialog is open; exec() runs
-  // the event loop, so its timer keeps ticking.
-  if (dialog->IsOpen()) window.exec();
   // Esc and the frame's close button close it as Close does.
-  if (dialog->IsOpen()) dialog->CloseButton();
+  RunDialogWindow(window, *dialog, [dialog] { dialog->CloseButton(); });
 }
 
 }  // namespace

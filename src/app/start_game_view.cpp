@@ -153,12 +153,9 @@ void ShowStartGame(mf::HumbleDialog& humble, QWidget* parent) {
   QObject::connect(cancel, &QPushButton::clicked, &window, [&window] { window.reject(); });
   refresh();
 
-  QApplication::setOverrideCursor(QCursor(Qt::ArrowCursor));
   SetMainAction(&window, start);
-  window.exec();
-  QApplication::restoreOverrideCursor();
   // Cancel, Esc and the frame's close all cancel.
-  if (dialog->IsOpen()) dialog->CancelButton();
+  RunDialogWindow(window, *dialog, [dialog] { dialog->CancelButton(); }, DialogPointer::kArrow);
 }
 
 }  // namespace

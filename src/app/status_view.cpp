@@ -49,21 +49,14 @@ void ShowStatus(mf::HumbleDialog& humble, QWidget* parent) {
     FillList(list, dialog->lines, -1);
     if (!dialog->IsOpen()) window.accept();
   };
-  auto button = [&window, refresh](QPushButton* b, auto action) {
-    QObject::connect(b, &QPushButton::clicked, &window, [action, refresh] {
-      action();
-      refresh();
-    });
-  };
-  button(hex, [dialog] { dialog->HexButton(); });
-  button(oob, [dialog] { dialog->OobButton(); });
-  button(supply, [dialog] { dialog->SupplyButton(); });
-  button(exitButton, [dialog] { dialog->ExitButton(); });
-  button(copy, [dialog] { QApplication::clipboard()->setText(Q(dialog->Text())); });
+  OnPress(hex, &window, refresh, [dialog] { dialog->HexButton(); });
+  OnPress(oob, &window, refresh, [dialog] { dialog->OobButton(); });
+  OnPress(supply, &window, refresh, [dialog] { dialog->SupplyButton(); });
+  OnPress(exitButton, &window, refresh, [dialog] { dialog->ExitButton(); });
+  OnPress(copy, &window, refresh, [dialog] { QApplication::clipboard()->setText(Q(dialog->Text())); });
   refresh();
-  if (dialog->IsOpen()) window.exec();
   // Esc and the frame's close button leave as the exit button does.
-  if (dialog->IsOpen()) dialog->ExitButton();
+  RunDialogWindow(window, *dialog, [dialog] { dialog->ExitButton(); });
 }
 
 }  // namespace

@@ -192,13 +192,11 @@ void ShowTransfer(mf::HumbleDialog& humble, QWidget* parent) {
   });
   refresh();
 
-  // exec() runs the event loop, so the main window's timer keeps ticking.
-  if (dialog->IsOpen()) window.exec();
   // Esc and the frame's close button cancel.
-  if (dialog->IsOpen()) {
+  RunDialogWindow(window, *dialog, [dialog] {
     std::string why;
     dialog->Cancel(&why);
-  }
+  });
 }
 
 }  // namespace

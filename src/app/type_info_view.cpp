@@ -53,8 +53,7 @@ void ShowTypeInfo(mf::HumbleDialog& humble, QWidget* parent) {
     dialog->CloseButton();
     window.accept();
   });
-  if (dialog->IsOpen()) window.exec();
-  if (dialog->IsOpen()) dialog->CloseButton();
+  RunDialogWindow(window, *dialog, [dialog] { dialog->CloseButton(); });
 }
 
 }  // namespace

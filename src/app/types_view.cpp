@@ -134,21 +134,16 @@ void ShowTypes(mf::HumbleDialog& humble, QWidget* parent) {
   std::vector<QWidget*> editing{name, theater, cls, cost, research, text, sprite, override, copy, info, living, owning};
   for (QLineEdit* b : attrBoxes) editing.push_back(b);
 
-  auto show = [](QLineEdit* edit, const std::string& value) {
-    const QSignalBlocker block(edit);
-    edit->setText(Q(value));
-    edit->setModified(false);
-  };
   auto refresh = [=, &window] {
     FillList(list, dialog->rows, dialog->row);
     number->setText(Q(dialog->numberLabel));
-    show(name, dialog->nameValue);
-    show(theater, dialog->selected ? std::to_string(dialog->theater) : "");
-    show(cls, dialog->selected ? std::to_string(dialog->typeClass) : "");
+    ShowValue(name, dialog->nameValue);
+    ShowValue(theater, dialog->selected ? std::to_string(dialog->theater) : "");
+    ShowValue(cls, dialog->selected ? std::to_string(dialog->typeClass) : "");
     classLabel->setText(Q(dialog->classLabel));
-    show(cost, dialog->costValue);
-    show(research, dialog->researchValue);
-    show(text, dialog->textValue);
+    ShowValue(cost, dialog->costValue);
+    ShowValue(research, dialog->researchValue);
+    ShowValue(text, dialog->textValue);
     spriteLabel->setText(Q(dialog->spriteLabel));
     overrideLabel->setText(Q(dialog->overrideLabel));
     researchLine->setText(Q(dialog->researchLine));
@@ -156,39 +151,26 @@ void ShowTypes(mf::HumbleDialog& humble, QWidget* parent) {
     FillList(owning, dialog->owningRows, -1);
     for (int a = 1; a <= 20; ++a) {
       const bool has = a <= static_cast<int>(dialog->attrValues.size());
-      show(attrBoxes[a - 1], has ? std::to_string(dialog->attrValues[a - 1]) : std::string());
+      ShowValue(attrBoxes[a - 1], has ? std::to_string(dialog->attrValues[a - 1]) : std::string());
     }
     for (QWidget* w : editing) w->setEnabled(dialog->selected != 0);
     if (!dialog->IsOpen()) window.accept();
   };
-  auto button = [&window, refresh](QPushButton* b, auto action) {
-    QObject::connect(b, &QPushButton::clicked, &window, [action, refresh] {
-      action();
-      refresh();
-    });
-  };
-  auto edited = [&window, refresh](QLineEdit* edit, auto action) {
-    QObject::connect(edit, &QLineEdit::editingFinished, &window, [edit, action, refresh] {
-      if (!edit->isModified()) return;
-      edit->setModified(false);
-      action(edit->text().toStdString());
-      refresh();
-    });
-  };
-  button(newButton, [dialog] { dialog->NewButton(); });
-  button(del, [dialog] { dialog->DeleteButton(); });
-  button(copy, [dialog] { dialog->CopyButton(); });
-  button(info, [dialog] { dialog->InfoButton(); });
-  button(sprite, [dialog] { dialog->SpriteButton(); });
-  button(override, [dialog] { dialog->OverrideButton(); });
-  button(close, [dialog] { dialog->CloseButton(); });
-  edited(name, [dialog](const std::string& v) { dialog->SetName(v); });
-  edited(theater, [dialog](const std::string& v) { dialog->SetTheater(v); });
-  edited(cls, [dialog](const std::string& v) { dialog->SetClass(v); });
-  edited(cost, [dialog](const std::string& v) { dialog->SetCost(v); });
-  edited(research, [dialog](const std::string& v) { dialog->SetResearch(v); });
-  edited(text, [dialog](const std::string& v) { dialog->SetText(v); });
-  for (int a = 1; a <= 20; ++a) edited(attrBoxes[a - 1], [dialog, a](const std::string& v) { dialog->SetAttr(a, v); });
+  OnPress(newButton, &window, refresh, [dialog] { dialog->NewButton(); });
+  OnPress(del, &window, refresh, [dialog] { dialog->DeleteButton(); });
+  OnPress(copy, &window, refresh, [dialog] { dialog->CopyButton(); });
+  OnPress(info, &window, refresh, [dialog] { dialog->InfoButton(); });
+  OnPress(sprite, &window, refresh, [dialog] { dialog->SpriteButton(); });
+  OnPress(override, &window, refresh, [dialog] { dialog->OverrideButton(); });
+  OnPress(close, &window, refresh, [dialog] { dialog->CloseButton(); });
+  OnEdited(name, &window, refresh, [dialog](const std::string& v) { dialog->SetName(v); });
+  OnEdited(theater, &window, refresh, [dialog](const std::string& v) { dialog->SetTheater(v); });
+  OnEdited(cls, &window, refresh, [dialog](const std::string& v) { dialog->SetClass(v); });
+  OnEdited(cost, &window, refresh, [dialog](const std::string& v) { dialog->SetCost(v); });
+  OnEdited(research, &window, refresh, [dialog](const std::string& v) { dialog->SetResearch(v); });
+  OnEdited(text, &window, refresh, [dialog](const std::string& v) { dialog->SetText(v); });
+  for (int a = 1; a <= 20; ++a)
+    OnEdited(attrBoxes[a - 1], &window, refresh, [dialog, a](const std::string& v) { dialog->SetAttr(a, v); });
   QObject::connect(filter, &QLineEdit::textChanged, &window, [dialog, refresh](const QString& t) {
     dialog->SetFilter(t.toStdString());
     refresh();
@@ -208,8 +190,7 @@ void ShowTypes(mf::HumbleDialog& humble, QWidget* parent) {
     refresh();
   });
   refresh();
-  if (dialog->IsOpen()) window.exec();
-  if (dialog->IsOpen()) dialog->CloseButton();
+  RunDialogWindow(window, *dialog, [dialog] { dialog->CloseButton(); });
 }
 
 }  // namespace

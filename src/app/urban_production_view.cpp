@@ -185,13 +185,11 @@ void ShowUrbanProduction(mf::HumbleDialog& humble, QWidget* parent) {
                    act([dialog](std::string* why) { return dialog->Close(why); }));
   refresh();
 
-  // exec() runs the event loop, so the main window's timer keeps ticking.
-  if (dialog->IsOpen()) window.exec();
   // Closed by its frame: the close rule still applies.
-  if (dialog->IsOpen()) {
+  RunDialogWindow(window, *dialog, [dialog] {
     std::string why;
     dialog->Close(&why);
-  }
+  });
 }
 
 }  // namespace

@@ -1,7 +1,11 @@
-// Small helpers the dialog views share for showing core's texts and lists.
+// Small helpers the dialog views share for showing core's texts and lists
+// and for passing a person's presses and edits on to the dialog.
 #pragma once
 
+#include <QLineEdit>
 #include <QListWidget>
+#include <QObject>
+#include <QPushButton>
 #include <QSignalBlocker>
 #include <QString>
 #include <string>
@@ -25,6 +29,37 @@ inline void FillList(QListWidget* list, const std::vector<std::string>& rows, in
   }
   list->setCurrentRow(current);
   if (current < 0) list->clearSelection();
+}
+
+// A box shows the dialog's value unless the person is typing in it; a value
+// the dialog refused springs back. No signal fires while it is set.
+inline void ShowValue(QLineEdit* edit, const std::string& value) {
+  if (edit->hasFocus() && edit->isModified()) return;
+  const QSignalBlocker block(edit);
+  edit->setText(Q(value));
+  edit->setModified(false);
+}
+
+// A press on `button` runs `action` on the dialog, then `refresh` shows the
+// dialog as it is now (closing the window when the dialog has closed).
+template <class Action, class Refresh>
+void OnPress(QPushButton* button, QObject* context, Refresh refresh, Action action) {
+  QObject::connect(button, &QPushButton::clicked, context, [action, refresh] {
+    action();
+    refresh();
+  });
+}
+
+// A box the person has changed and left hands its text to `action` once;
+// then `refresh` shows what the dialog made of it.
+template <class Action, class Refresh>
+void OnEdited(QLineEdit* edit, QObject* context, Refresh refresh, Action action) {
+  QObject::connect(edit, &QLineEdit::editingFinished, context, [edit, action, refresh] {
+    if (!edit->isModified()) return;
+    edit->setModified(false);
+    action(edit->text().toStdString());
+    refresh();
+  });
 }
 
 }  // namespace mf::app

@@ -11,6 +11,7 @@
 #include <functional>
 
 #include "app_fixture.h"
+#include "view_runner.h"
 #include "dialog_views.h"
 #include "engine/diplomatics_dialog.h"
 #include "engine/research_dialog.h"
@@ -22,45 +23,12 @@ namespace {
 
 namespace world = mf::test::world;
 
-QDialog* OpenDialog(const char* name) {
-  for (QWidget* w : QApplication::topLevelWidgets()) {
-    auto* d = qobject_cast<QDialog*>(w);
-    if (d && d->isVisible() && d->objectName() == name) return d;
-  }
-  return nullptr;
-}
-
-// Keeps a picture of a dialog window in the build folder for a person to look at.
-void Screenshot(QDialog* d, const char* name) {
-  const std::filesystem::path dir(MF_SCREENSHOT_DIR);
-  std::filesystem::create_directories(dir);
-  const QImage shot = d->grab().toImage();
-  ASSERT_FALSE(shot.isNull());
-  EXPECT_TRUE(shot.save(QString::fromStdString((dir / name).string()), "PNG"));
-}
-
 class DipResViewsTest : public AppTest {
  protected:
   // Runs the view of a dialog; `inside` runs once the window is up. A window
   // still open after two seconds is closed so that a failure cannot hang.
   void RunView(mf::HumbleDialog& dialog, const char* windowName, std::function<void(QDialog*)> inside) {
-    bool ran = false;
-    QTimer::singleShot(0, window.get(), [&] {
-      QDialog* d = OpenDialog(windowName);
-      ran = true;
-      ASSERT_NE(d, nullptr) << windowName;
-      inside(d);
-    });
-    QTimer::singleShot(2000, window.get(), [&] {
-      if (QDialog* d = OpenDialog(windowName)) {
-        ADD_FAILURE() << windowName << " was still open";
-        d->done(0);
-      }
-    });
-    auto view = FindDialogView(dialog.DialogName());
-    ASSERT_TRUE(static_cast<bool>(view)) << dialog.DialogName();
-    view(dialog, window.get());
-    EXPECT_TRUE(ran);
+    RunDialogView(dialog, window.get(), windowName, inside);
   }
   void ThreeRegimes() {
     world::NewMap(10, 10);
@@ -96,7 +64,7 @@ TEST_F(DipResViewsTest, TheDiplomaticsWindowShowsTheRowsAndMakesPeace) {
     EXPECT_FALSE(row3->isVisible());  // Green's price is 999
     EXPECT_FALSE(row4->isVisible());  // no fourth regime
     EXPECT_FALSE(d->findChild<QLabel*>("picture2")->pixmap().isNull());
-    Screenshot(d, "diplomatics.png");
+    KeepPicture(d, "diplomatics.png");
     row2->click();
     EXPECT_EQ(text2->text(), "At peace with Blue");
     EXPECT_EQ(row2->text(), "Declare War for 80 PP");
@@ -145,7 +113,7 @@ TEST_F(DipResViewsTest, TheResearchWindowSelectsAndBuys) {
     EXPECT_EQ(d->findChild<QLabel*>("detailText")->text(), "Better rifles.");
     d->findChild<QPushButton*>("buy")->click();
     EXPECT_EQ(points->text(), "(40pp available)");
-    Screenshot(d, "research.png");
+    KeepPicture(d, "research.png");
     ASSERT_EQ(known->count(), 2);
     EXPECT_EQ(known->item(0)->text(), "Rifles");
     EXPECT_EQ(known->currentRow(), 0);
@@ -168,7 +136,7 @@ TEST_F(DipResViewsTest, TheResearchWindowShowsTheEditorsButtonsInTheEditor) {
   dialog.Prepare(1, true);
   RunView(dialog, "researchDialog", [&](QDialog* d) {
     EXPECT_TRUE(d->findChild<QWidget*>("editPart")->isVisible());
-    Screenshot(d, "research_editor.png");
+    KeepPicture(d, "research_editor.png");
     auto* offer = d->findChild<QListWidget*>("offer");
     offer->setCurrentRow(0);
     auto* cost = d->findChild<QLineEdit*>("cost");

@@ -12,6 +12,7 @@
 #include <functional>
 
 #include "app_fixture.h"
+#include "view_runner.h"
 #include "dialog_views.h"
 #include "engine/urban_production_dialog.h"
 #include "model/game_state.h"
@@ -21,14 +22,6 @@ namespace mf::app::test {
 namespace {
 
 namespace world = mf::test::world;
-
-QDialog* OpenProductionWindow() {
-  for (QWidget* w : QApplication::topLevelWidgets()) {
-    auto* d = qobject_cast<QDialog*>(w);
-    if (d && d->isVisible() && d->objectName() == "urbanProductionDialog") return d;
-  }
-  return nullptr;
-}
 
 class EconViewsTest : public AppTest {
  protected:
@@ -59,23 +52,7 @@ class EconViewsTest : public AppTest {
   // Runs the view; `inside` runs once the window is up. A window still open
   // after two seconds is closed so that a failure cannot hang.
   void RunView(mf::UrbanProductionDialog& dialog, std::function<void(QDialog*)> inside) {
-    bool ran = false;
-    QTimer::singleShot(0, window.get(), [&] {
-      QDialog* d = OpenProductionWindow();
-      ran = true;
-      ASSERT_NE(d, nullptr);
-      inside(d);
-    });
-    QTimer::singleShot(2000, window.get(), [&] {
-      if (QDialog* d = OpenProductionWindow()) {
-        ADD_FAILURE() << "the production window was still open";
-        d->done(0);
-      }
-    });
-    auto view = FindDialogView("production");
-    ASSERT_TRUE(static_cast<bool>(view));
-    view(dialog, window.get());
-    EXPECT_TRUE(ran);
+    RunDialogView(dialog, window.get(), "urbanProductionDialog", inside);
   }
 
   int shq = 0;

@@ -10,6 +10,7 @@
 #include <functional>
 
 #include "app_fixture.h"
+#include "view_runner.h"
 #include "dialog_views.h"
 #include "engine/event_dialog.h"
 #include "engine/events.h"
@@ -21,36 +22,12 @@ namespace {
 
 namespace world = mf::test::world;
 
-QDialog* OpenDialog(const char* name) {
-  for (QWidget* w : QApplication::topLevelWidgets()) {
-    auto* d = qobject_cast<QDialog*>(w);
-    if (d && d->isVisible() && d->objectName() == name) return d;
-  }
-  return nullptr;
-}
-
 class EventViewTest : public AppTest {
  protected:
   // Runs the view of the dialog; `inside` runs once the window is up. A
   // window still open after two seconds is closed so that a failure cannot hang.
   void RunView(mf::HumbleDialog& dialog, std::function<void(QDialog*)> inside) {
-    bool ran = false;
-    QTimer::singleShot(0, window.get(), [&] {
-      QDialog* d = OpenDialog("eventDialog");
-      ran = true;
-      ASSERT_NE(d, nullptr);
-      inside(d);
-    });
-    QTimer::singleShot(2000, window.get(), [&] {
-      if (QDialog* d = OpenDialog("eventDialog")) {
-        ADD_FAILURE() << "the Event! window was still open";
-        d->done(0);
-      }
-    });
-    auto view = FindDialogView("event");
-    ASSERT_TRUE(static_cast<bool>(view));
-    view(dialog, window.get());
-    EXPECT_TRUE(ran);
+    RunDialogView(dialog, window.get(), "eventDialog", inside);
   }
   int AddEvent(const std::string& story) {
     const int e = static_cast<int>(++Game.EventCount);

@@ -16,6 +16,7 @@
 #include <functional>
 
 #include "app_fixture.h"
+#include "view_runner.h"
 #include "control/new_turn_dialog.h"
 #include "control/scenario_flow.h"
 #include "control/turn_cycle.h"
@@ -37,11 +38,6 @@ namespace {
 
 namespace world = mf::test::world;
 
-QString LabelText(QWidget* root, const char* name) {
-  auto* l = root->findChild<QLabel*>(name);
-  return l ? l->text() : QString("<no label %1>").arg(name);
-}
-
 // Every label of the side panel that a player can see, by name and text.
 QStringList PanelTexts(SidePanel* panel) {
   QStringList out;
@@ -50,14 +46,6 @@ QStringList PanelTexts(SidePanel* panel) {
     out << l->objectName() + "=" + l->text();
   }
   return out;
-}
-
-QDialog* OpenDialog(const char* name) {
-  for (QWidget* w : QApplication::topLevelWidgets()) {
-    auto* d = qobject_cast<QDialog*>(w);
-    if (d && d->isVisible() && d->objectName() == name) return d;
-  }
-  return nullptr;
 }
 
 // What the window showed when a dialog came up.
@@ -347,21 +335,7 @@ TEST_F(HandoverTest, ThrowingAwayAGameOrSurrenderingIsAskedFirst) {
 
 // Runs the New Turn window with `inside` once it is up.
 void RunNewTurn(QWidget* parent, mf::NewTurnDialog& dialog, const std::function<void(QDialog*)>& inside) {
-  bool ran = false;
-  QTimer::singleShot(0, parent, [&] {
-    QDialog* d = OpenDialog("newTurnDialog");
-    ran = true;
-    ASSERT_NE(d, nullptr);
-    inside(d);
-  });
-  QTimer::singleShot(2000, parent, [&] {
-    if (QDialog* d = OpenDialog("newTurnDialog")) {
-      ADD_FAILURE() << "the New Turn window was still open";
-      d->done(0);
-    }
-  });
-  FindDialogView("newturn")(dialog, parent);
-  EXPECT_TRUE(ran);
+  RunDialogView(dialog, parent, "newTurnDialog", inside);
 }
 
 void SendKey(QWidget* to, int key) {

@@ -15,6 +15,7 @@
 #include <QWheelEvent>
 
 #include "app_fixture.h"
+#include "view_runner.h"
 #include "control/order_state.h"
 #include "dialog_views.h"
 #include "engine/urban_production_dialog.h"
@@ -244,20 +245,12 @@ TEST_F(HelpTest, TheUnitTypeInfoButtonIsOfferedNowThatTheInfoWindowExists) {
   Hex[5][5].Owner = red;
   mf::UrbanProductionDialog dialog;
   dialog.Prepare(5, 5);
-  bool ran = false;
-  QTimer::singleShot(0, window.get(), [&] {
-    for (QWidget* w : QApplication::topLevelWidgets()) {
-      if (!w->isVisible()) continue;
-      auto* info = w->findChild<QPushButton*>("info");
-      if (info && w->findChild<QPushButton*>("changeProd")) {
-        ran = true;
-        EXPECT_FALSE(info->isHidden());
-        if (auto* close = w->findChild<QPushButton*>("close")) close->click();
-      }
-    }
+  RunDialogView(dialog, window.get(), "urbanProductionDialog", [](QDialog* d) {
+    auto* info = d->findChild<QPushButton*>("info");
+    ASSERT_NE(info, nullptr);
+    EXPECT_TRUE(info->isVisible());
+    d->findChild<QPushButton*>("close")->click();
   });
-  FindDialogView("production")(dialog, window.get());
-  EXPECT_TRUE(ran);
 }
 
 }  // namespace

@@ -9,6 +9,7 @@
 #include <filesystem>
 
 #include "app_fixture.h"
+#include "view_runner.h"
 #include "files/scenario_file.h"
 #include "map_widget.h"
 #include "model/game_state.h"
@@ -20,11 +21,6 @@ namespace mf::app::test {
 namespace {
 
 namespace world = mf::test::world;
-
-QString LabelText(QWidget* root, const char* name) {
-  auto* l = root->findChild<QLabel*>(name);
-  return l ? l->text() : QString("<no label %1>").arg(name);
-}
 
 class OrdersWindowTest : public AppTest {
  protected:

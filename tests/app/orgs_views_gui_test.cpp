@@ -12,6 +12,7 @@
 #include <functional>
 
 #include "app_fixture.h"
+#include "view_runner.h"
 #include "dialog_views.h"
 #include "engine/officers.h"
 #include "model/game_state.h"
@@ -23,14 +24,6 @@ namespace mf::app::test {
 namespace {
 
 namespace world = mf::test::world;
-
-QDialog* OpenWindow(const QString& name) {
-  for (QWidget* w : QApplication::topLevelWidgets()) {
-    auto* d = qobject_cast<QDialog*>(w);
-    if (d && d->isVisible() && d->objectName() == name) return d;
-  }
-  return nullptr;
-}
 
 class OrgsViewsTest : public AppTest {
  protected:
@@ -54,25 +47,8 @@ class OrgsViewsTest : public AppTest {
 
   // Runs the view of `name`; `inside` runs once its window is up. A window
   // still open after two seconds is closed so that a failure cannot hang.
-  void RunView(mf::HumbleDialog& dialog, const std::string& name, const QString& object,
-               std::function<void(QDialog*)> inside) {
-    bool ran = false;
-    QTimer::singleShot(0, window.get(), [&] {
-      QDialog* d = OpenWindow(object);
-      ran = true;
-      ASSERT_NE(d, nullptr);
-      inside(d);
-    });
-    QTimer::singleShot(2000, window.get(), [&] {
-      if (QDialog* d = OpenWindow(object)) {
-        ADD_FAILURE() << "the window " << object.toStdString() << " was still open";
-        d->done(0);
-      }
-    });
-    auto view = FindDialogView(name);
-    ASSERT_TRUE(static_cast<bool>(view));
-    view(dialog, window.get());
-    EXPECT_TRUE(ran);
+  void RunView(mf::HumbleDialog& dialog, const char* windowName, std::function<void(QDialog*)> inside) {
+    RunDialogView(dialog, window.get(), windowName, inside);
   }
 
   int red = 0, rifle = 0;
@@ -84,7 +60,7 @@ TEST_F(OrgsViewsTest, NewUnitWindowShowsPricesAndMakesAFormation) {
   Regime[red].FormationName = "Bataljon";
   mf::NewUnitDialog dialog;
   dialog.Prepare();
-  RunView(dialog, "newunit", "newUnitDialog", [&](QDialog* d) {
+  RunView(dialog, "newUnitDialog", [&](QDialog* d) {
     EXPECT_EQ(d->windowTitle(), "Create what kind of unit?");
     auto* land = d->findChild<QPushButton*>("land");
     auto* navy = d->findChild<QPushButton*>("navy");
@@ -113,7 +89,7 @@ TEST_F(OrgsViewsTest, NewUnitWindowClosedByItsFrameMakesNothing) {
   UI.SelY = 5;
   mf::NewUnitDialog dialog;
   dialog.Prepare();
-  RunView(dialog, "newunit", "newUnitDialog", [](QDialog* d) { d->reject(); });
+  RunView(dialog, "newUnitDialog", [](QDialog* d) { d->reject(); });
   EXPECT_FALSE(dialog.IsOpen());
   EXPECT_EQ(dialog.made, 0);
   EXPECT_EQ(Hex[5][5].Unit[1], 0);
@@ -135,7 +111,7 @@ TEST_F(OrgsViewsTest, OfficerPoolWindowListsThePoolAndAssigns) {
   UI.SelSlot = 1;
   mf::OfficerPoolDialog dialog;
   dialog.Prepare(false);
-  RunView(dialog, "officerpool", "officerPoolDialog", [&](QDialog* d) {
+  RunView(dialog, "officerPoolDialog", [&](QDialog* d) {
     auto* points = d->findChild<QLabel*>("points");
     auto* pool = d->findChild<QListWidget*>("pool");
     auto* unitLines = d->findChild<QLabel*>("unitLines");
@@ -188,7 +164,7 @@ TEST_F(OrgsViewsTest, TransferWindowShowsCostsAndTransfers) {
   UI.Order.TransferOrder = 1;
   mf::TransferDialog dialog;
   dialog.Prepare(false);
-  RunView(dialog, "transfer", "transferDialog", [&](QDialog* d) {
+  RunView(dialog, "transferDialog", [&](QDialog* d) {
     EXPECT_EQ(d->windowTitle(), "TRANSFER");
     auto* stock = d->findChild<QListWidget*>("stock");
     auto* inf = d->findChild<QSlider*>("inf");
@@ -239,7 +215,7 @@ TEST_F(OrgsViewsTest, TransferWindowClosedByItsFrameCancels) {
   UI.Order.TransferOrder = 1;
   mf::TransferDialog dialog;
   dialog.Prepare(false);
-  RunView(dialog, "transfer", "transferDialog", [](QDialog* d) { d->reject(); });
+  RunView(dialog, "transferDialog", [](QDialog* d) { d->reject(); });
   EXPECT_FALSE(dialog.IsOpen());
   EXPECT_EQ(UI.Order.TransferOrder, 0);
 }

@@ -13,6 +13,7 @@
 #include <functional>
 
 #include "app_fixture.h"
+#include "view_runner.h"
 #include "model/game_state.h"
 #include "model/invariants.h"
 #include "dialog_views.h"
@@ -22,22 +23,6 @@
 namespace mf::app::test {
 namespace {
 
-QDialog* VisibleDialog(const char* name) {
-  for (QWidget* w : QApplication::topLevelWidgets()) {
-    auto* d = qobject_cast<QDialog*>(w);
-    if (d && d->isVisible() && d->objectName() == name) return d;
-  }
-  return nullptr;
-}
-
-void Shot(QWidget* w, const char* name) {
-  const std::filesystem::path dir(MF_SCREENSHOT_DIR);
-  std::filesystem::create_directories(dir);
-  const QImage shot = w->grab().toImage();
-  ASSERT_FALSE(shot.isNull());
-  EXPECT_TRUE(shot.save(QString::fromStdString((dir / name).string()), "PNG"));
-}
-
 class RandomViewTest : public AppTest {
  protected:
   // Runs the window of the dialog as the menu opens it; `inside` runs once
@@ -45,21 +30,7 @@ class RandomViewTest : public AppTest {
   void RunView(mf::RandomScenarioDialog& dialog, std::function<void(QDialog*)> inside) {
     ASSERT_TRUE(mf::PrepareRandomGame());
     dialog.Prepare();
-    bool ran = false;
-    QTimer::singleShot(0, window.get(), [&] {
-      QDialog* d = VisibleDialog("randomScenarioDialog");
-      ran = true;
-      ASSERT_NE(d, nullptr);
-      inside(d);
-    });
-    QTimer::singleShot(2000, window.get(), [&] {
-      if (QDialog* d = VisibleDialog("randomScenarioDialog")) {
-        ADD_FAILURE() << "the Random Scenario window was still open";
-        d->done(0);
-      }
-    });
-    FindDialogView("random")(dialog, window.get());
-    EXPECT_TRUE(ran);
+    RunDialogView(dialog, window.get(), "randomScenarioDialog", inside);
   }
 };
 
@@ -80,7 +51,7 @@ TEST_F(RandomViewTest, TheFileMenuMakesAMapAndBeginsItsFirstTurn) {
   EXPECT_EQ(Game.CurRegime, 1);
   EXPECT_EQ(UI.EditMode, 0);
   EXPECT_EQ(CheckInvariants(), "");
-  Shot(window.get(), "random_scenario_map.png");
+  KeepPicture(window.get(), "random_scenario_map.png");
 }
 
 TEST_F(RandomViewTest, TheWindowShowsForwardsAndRefuses) {
@@ -100,7 +71,7 @@ TEST_F(RandomViewTest, TheWindowShowsForwardsAndRefuses) {
     EXPECT_TRUE(human4->isVisible());
     EXPECT_FALSE(human2->isChecked());
     EXPECT_EQ(d->findChild<QPushButton*>("start")->text(), "Start Random Game");
-    Shot(d, "random_scenario_dialog.png");
+    KeepPicture(d, "random_scenario_dialog.png");
 
     // A size of 9 is refused with the dialog's words, and the window stays.
     size->selectAll();

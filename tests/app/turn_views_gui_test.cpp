@@ -12,6 +12,7 @@
 #include <functional>
 
 #include "app_fixture.h"
+#include "view_runner.h"
 #include "control/new_turn_dialog.h"
 #include "dialog_views.h"
 #include "engine/start_game_dialog.h"
@@ -23,35 +24,12 @@ namespace {
 
 namespace world = mf::test::world;
 
-// The visible top-level dialog with that object name, or nullptr.
-QDialog* OpenDialog(const char* name) {
-  for (QWidget* w : QApplication::topLevelWidgets()) {
-    auto* d = qobject_cast<QDialog*>(w);
-    if (d && d->isVisible() && d->objectName() == name) return d;
-  }
-  return nullptr;
-}
-
 class TurnViewsTest : public AppTest {
  protected:
   // Runs the view of a dialog; `inside` runs once the window is up. A window
   // still open after two seconds is closed so that a failure cannot hang.
   void RunView(mf::HumbleDialog& dialog, const char* windowName, std::function<void(QDialog*)> inside) {
-    bool ran = false;
-    QTimer::singleShot(0, window.get(), [&] {
-      QDialog* d = OpenDialog(windowName);
-      ran = true;
-      ASSERT_NE(d, nullptr) << windowName;
-      inside(d);
-    });
-    QTimer::singleShot(2000, window.get(), [&] {
-      if (QDialog* d = OpenDialog(windowName)) {
-        ADD_FAILURE() << windowName << " was still open";
-        d->done(0);
-      }
-    });
-    FindDialogView(dialog.DialogName())(dialog, window.get());
-    EXPECT_TRUE(ran);
+    RunDialogView(dialog, window.get(), windowName, inside);
   }
   void TwoRegimes() {
     world::NewMap(10, 10);

@@ -1,11 +1,14 @@
-// Running one dialog view inside a GUI test: find its window once it is up,
-// act in it, keep a picture of it for a person to look at.
+// What the GUI tests share: running one dialog view and finding its window
+// once it is up, acting in it, keeping a picture of it for a person to look
+// at, and reading the texts the window shows.
 #pragma once
 
 #include <gtest/gtest.h>
 
 #include <QApplication>
 #include <QDialog>
+#include <QElapsedTimer>
+#include <QLabel>
 #include <QTimer>
 #include <filesystem>
 #include <functional>
@@ -23,6 +26,13 @@ inline QDialog* VisibleDialog(const char* name) {
   return nullptr;
 }
 
+// The text of the label with that object name under `root`, or a text that
+// says it is missing (which no expected text equals).
+inline QString LabelText(QWidget* root, const char* name) {
+  auto* l = root->findChild<QLabel*>(name);
+  return l ? l->text() : QString("<no label %1>").arg(name);
+}
+
 // Keeps a picture of a dialog window in the build folder.
 inline void KeepPicture(QWidget* d, const char* file) {
   const std::filesystem::path dir(MF_SCREENSHOT_DIR);
@@ -32,24 +42,43 @@ inline void KeepPicture(QWidget* d, const char* file) {
   EXPECT_TRUE(shot.save(QString::fromStdString((dir / file).string()), "PNG"));
 }
 
+// Calls `inside` once the dialog window `windowName` is up: a window may be
+// built and shown a moment after the view starts, so it is looked for every
+// 10 ms. After two seconds a window still missing is a failure, and a window
+// still open is closed, so that a failure cannot hang the suite.
+inline void WhenDialogUp(QWidget* parent, const char* windowName, const std::function<void(QDialog*)>& inside,
+                         bool* ran) {
+  auto* poll = new QTimer(parent);
+  auto* clock = new QElapsedTimer();
+  clock->start();
+  QObject::connect(poll, &QTimer::timeout, parent, [=] {
+    QDialog* d = VisibleDialog(windowName);
+    if (!d && clock->elapsed() < 2000) return;
+    poll->stop();
+    poll->deleteLater();
+    delete clock;
+    if (!d) {
+      ADD_FAILURE() << windowName << " never opened";
+      return;
+    }
+    *ran = true;
+    inside(d);
+    QTimer::singleShot(2000, parent, [windowName] {
+      if (QDialog* still = VisibleDialog(windowName)) {
+        ADD_FAILURE() << windowName << " was still open";
+        still->done(0);
+      }
+    });
+  });
+  poll->start(10);
+}
+
 // Runs the registered view of a dialog over `parent`; `inside` runs once its
-// window `windowName` is up. A window still open after two seconds is closed
-// so that a failure cannot hang the suite.
+// window `windowName` is up.
 inline void RunDialogView(mf::HumbleDialog& dialog, QWidget* parent, const char* windowName,
                           const std::function<void(QDialog*)>& inside) {
   bool ran = false;
-  QTimer::singleShot(0, parent, [&] {
-    QDialog* d = VisibleDialog(windowName);
-    ran = true;
-    ASSERT_NE(d, nullptr) << windowName;
-    inside(d);
-  });
-  QTimer::singleShot(2000, parent, [&] {
-    if (QDialog* d = VisibleDialog(windowName)) {
-      ADD_FAILURE() << windowName << " was still open";
-      d->done(0);
-    }
-  });
+  WhenDialogUp(parent, windowName, inside, &ran);
   auto view = FindDialogView(dialog.DialogName());
   ASSERT_TRUE(static_cast<bool>(view)) << dialog.DialogName();
   view(dialog, parent);

@@ -12,6 +12,7 @@
 #include <filesystem>
 
 #include "app_fixture.h"
+#include "view_runner.h"
 #include "files/scenario_file.h"
 #include "map_widget.h"
 #include "minimap.h"
@@ -31,11 +32,6 @@ namespace world = mf::test::world;
 // The middle of a hex picture, where the terrain shows best.
 constexpr int kMidX = 21;
 constexpr int kMidY = 20;
-
-QString LabelText(QWidget* root, const char* name) {
-  auto* l = root->findChild<QLabel*>(name);
-  return l ? l->text() : QString("<no label %1>").arg(name);
-}
 
 class WindowTest : public AppTest {
  protected:

@@ -5,20 +5,19 @@
 #include "ai/ai_state.h"
 
 #include "combat/attack.h"
+#include "model/bounds.h"
 #include "orders/movement.h"
 #include "platform/platform.h"
 
 namespace mf {
 
-int AIMapW() { return Game.MapW < 0 ? 0 : (Game.MapW > kMapCap ? kMapCap : static_cast<int>(Game.MapW)); }
-int AIMapH() { return Game.MapH < 0 ? 0 : (Game.MapH > kMapCap ? kMapCap : static_cast<int>(Game.MapH)); }
 bool AIValidFront(int f) { return f >= 1 && f <= AI.FrontCount && f <= kFrontCap; }
 bool AILive(long u) { return ValidUnit(static_cast<int>(u)) && u != 0 && Unit[u].Regime != 0; }
 
 void AIFloodWaves(long waves, const AIWaveStep& expand) {
   std::vector<HexXY> wave, next;
-  for (int x = 1; x <= AIMapW(); ++x)
-    for (int y = 1; y <= AIMapH(); ++y)
+  for (int x = 1; x <= MapW(); ++x)
+    for (int y = 1; y <= MapH(); ++y)
       if (Hex[x][y].Mark == 1) wave.push_back({x, y});
   for (long w = 1; w <= waves && !wave.empty(); ++w) {
     std::sort(wave.begin(), wave.end(), [](HexXY a, HexXY b) { return a.x != b.x ? a.x < b.x : a.y < b.y; });

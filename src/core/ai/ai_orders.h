@@ -8,6 +8,7 @@
 #include <functional>
 #include <vector>
 
+#include "model/bounds.h"
 #include "model/game_state.h"
 #include "model/hex_geometry.h"
 
@@ -27,9 +28,6 @@ void AIWatch(int x, int y);
 // Does nothing while nobody watches.
 void AIShowChange(Long what);
 
-// The map's size, held inside the tables, for the scans of every stage.
-int AIMapW();
-int AIMapH();
 // A front number in use.
 bool AIValidFront(int f);
 // A unit number that names a unit in play.

@@ -3,6 +3,7 @@
 #include "ai/ai_orders.h"
 #include "combat/air_mission.h"
 #include "engine/diplomacy.h"
+#include "model/bounds.h"
 #include "model/game_state.h"
 #include "orders/flood.h"
 
@@ -21,8 +22,8 @@ bool Prey(const HexRec& h) {
 }  // namespace
 
 void AIAirInterdict() {
-  for (int x = 1; x <= AIMapW(); ++x) {
-    for (int y = 1; y <= AIMapH(); ++y) {
+  for (int x = 1; x <= MapW(); ++x) {
+    for (int y = 1; y <= MapH(); ++y) {
       if (Hex[x][y].Owner != Game.CurRegime) continue;
       for (int s = 1; s <= kStackSlots; ++s) {
         const int u = static_cast<int>(Hex[x][y].Unit[s]);
@@ -31,8 +32,8 @@ void AIAirInterdict() {
         UI.Order.InterdictOrder = 1;
         AIFloodFrom(x, y, s);
         int tx = 0, ty = 0;
-        for (int px = 1; px <= AIMapW() && tx == 0; ++px) {
-          for (int py = 1; py <= AIMapH(); ++py) {
+        for (int px = 1; px <= MapW() && tx == 0; ++px) {
+          for (int py = 1; py <= MapH(); ++py) {
             if (Prey(Hex[px][py])) {
               tx = px;
               ty = py;

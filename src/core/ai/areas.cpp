@@ -6,16 +6,13 @@
 
 #include "ai/unit_worth.h"
 #include "model/arith.h"
+#include "model/bounds.h"
 #include "model/hex_geometry.h"
 
 namespace mf {
 namespace {
 
-int Held(long v, int cap) { return v < 0 ? 0 : v > cap ? cap : static_cast<int>(v); }
-int MapW() { return Held(Game.MapW, kMapCap); }
-int MapH() { return Held(Game.MapH, kMapCap); }
 int Areas() { return Held(AI.AreaCount, kAreaCap); }
-int Cur() { return ValidRegime(static_cast<int>(Game.CurRegime)) ? static_cast<int>(Game.CurRegime) : 0; }
 
 bool OnMap(const HexXY& n) { return n.x > 0 && n.y > 0; }
 bool IsSea(const HexRec& h) { return h.Land == kSea; }
@@ -295,7 +292,7 @@ void AIAreaStrength() {
     }
   }
   const int w = MapW(), h = MapH();
-  const int me = Cur();
+  const int me = CurrentRegime();
   for (int x = 1; x <= w; ++x) {
     for (int y = 1; y <= h; ++y) {
       const HexRec& hex = Hex[x][y];

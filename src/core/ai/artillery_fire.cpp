@@ -3,6 +3,7 @@
 #include "ai/ai_orders.h"
 #include "ai/ai_state.h"
 #include "engine/diplomacy.h"
+#include "model/bounds.h"
 #include "model/game_state.h"
 #include "model/hex_geometry.h"
 
@@ -61,8 +62,8 @@ AITarget AIArtilleryTarget(int x, int y, long range) {
 void AIArtilleryFire(int f) {
   if (!AIValidFront(f)) return;
   const long own = AI.FrontOwnArea[f];
-  for (int x = 1; x <= AIMapW(); ++x) {
-    for (int y = 1; y <= AIMapH(); ++y) {
+  for (int x = 1; x <= MapW(); ++x) {
+    for (int y = 1; y <= MapH(); ++y) {
       if (Hex[x][y].Area != own) continue;
       for (int s = 1; s <= kStackSlots; ++s) {
         const int u = static_cast<int>(Hex[x][y].Unit[s]);

@@ -14,6 +14,7 @@
 #include "ai/production.h"
 #include "ai/reshape.h"
 #include "ai/stock.h"
+#include "model/bounds.h"
 #include "model/game_state.h"
 #include "model/rnd.h"
 #include "orders/order_buttons.h"
@@ -25,8 +26,6 @@ namespace {
 // The steps of a computer turn, counted on the "Next turn" button as
 // "AI PHASE p/n" when the analysis is on.
 constexpr int kPhases = 20;
-
-int Cur() { return ValidRegime(static_cast<int>(Game.CurRegime)) ? static_cast<int>(Game.CurRegime) : 0; }
 
 void Phase(int step) {
   SetAIPhase(step, kPhases);
@@ -61,7 +60,7 @@ void RememberFronts(int r) {
 }
 
 bool EveryRegimeIsComputer() {
-  const int last = Game.RegimeCount < 0 ? 0 : Game.RegimeCount > kRegimeCap ? kRegimeCap : static_cast<int>(Game.RegimeCount);
+  const int last = LastRegime();
   int computers = 0;
   for (int r = 1; r <= last; ++r)
     if (Regime[r].AI == 1) ++computers;
@@ -71,7 +70,7 @@ bool EveryRegimeIsComputer() {
 }  // namespace
 
 void AITurn() {
-  const int r = Cur();
+  const int r = CurrentRegime();
   ClearOrderRegisters();
 
   // 1. and 2. Whose turn it is, in the log and in the help label.

@@ -10,16 +10,13 @@
 #include "ai/sorted_list.h"
 #include "ai/unit_worth.h"
 #include "model/arith.h"
+#include "model/bounds.h"
 
 namespace mf {
 namespace {
 
-int Held(long v, int cap) { return v < 0 ? 0 : v > cap ? cap : static_cast<int>(v); }
-int MapW() { return Held(Game.MapW, kMapCap); }
-int MapH() { return Held(Game.MapH, kMapCap); }
 int Areas() { return Held(AI.AreaCount, kAreaCap); }
 int Fronts() { return Held(AI.FrontCount, kFrontCap); }
-Long Cur() { return Game.CurRegime; }
 
 // An area number from a table, 0 when it is none or out of range.
 int AreaIndex(long a) { return a > 0 && a <= kAreaCap ? static_cast<int>(a) : 0; }
@@ -35,11 +32,11 @@ Long OtherArea(int f) { return AI.FrontEnemyArea[f]; }
 double EndPop() { return Game.GameEndPop > 0 ? static_cast<double>(Game.GameEndPop) : 1.0; }
 
 bool AtPeaceWith(long owner) {
-  return owner > 0 && ValidRegime(static_cast<int>(owner)) && ValidRegime(static_cast<int>(Cur())) &&
-         Dip[Cur()][owner].Relation == 1;
+  return owner > 0 && ValidRegime(static_cast<int>(owner)) && CurrentRegime() > 0 &&
+         Dip[CurrentRegime()][owner].Relation == 1;
 }
 
-bool OwnUnit(int u) { return ValidUnit(u) && Cur() > 0 && Unit[u].Regime == Cur(); }
+bool OwnUnit(int u) { return ValidUnit(u) && CurrentRegime() > 0 && Unit[u].Regime == CurrentRegime(); }
 bool IsHq(int u) { return Unit[u].Shq > 0 || Unit[u].Thq > 0; }
 
 // Every unit standing on the map, in scan order: x outer, y inner, slots 1..3.
@@ -288,7 +285,9 @@ void AIFindFronts() {
       const Long owner = CentreOf(b).Owner;
       // A neighbour at peace still counts, for a fifth; one that has made
       // peace hard to break, for a tenth.
-      if (AtPeaceWith(owner)) w = static_cast<Long>(Dip[Cur()][owner].Cost >= 999 ? Int(w / 10.0) : Int(w / 5.0));
+      if (AtPeaceWith(owner)) {
+        w = static_cast<Long>(Dip[CurrentRegime()][owner].Cost >= 999 ? Int(w / 10.0) : Int(w / 5.0));
+      }
       if (NewFront(a, b, w)) any = true;
     }
     for (int b = 1; b <= count; ++b) {
@@ -299,7 +298,7 @@ void AIFindFronts() {
       if (ca.Landmass == cb.Landmass) continue;
       Long w = BaseWeight(a, b);
       long d = std::abs(AI.AreaX[a] - AI.AreaX[b]) + std::abs(AI.AreaY[a] - AI.AreaY[b]);
-      if (cb.Owner != Cur() && AtPeaceWith(cb.Owner)) d += 50;
+      if (cb.Owner != CurrentRegime() && AtPeaceWith(cb.Owner)) d += 50;
       w = static_cast<Long>(Int(w * 100.0 / (50 + d)));
       const int f = NewFront(a, b, w);
       if (f == 0) continue;
@@ -351,7 +350,7 @@ void AIMoveThqFront() {
     const long own = OwnArea(f);
     for (int x = 1; x <= w; ++x) {
       for (int y = 1; y <= h; ++y) {
-        if (Hex[x][y].Area != own || Hex[x][y].Owner != Cur()) continue;
+        if (Hex[x][y].Area != own || Hex[x][y].Owner != CurrentRegime()) continue;
         for (int s = 1; s <= kStackSlots; ++s) {
           const int t = static_cast<int>(Hex[x][y].Unit[s]);
           if (!OwnUnit(t) || Unit[t].Thq <= 0) continue;

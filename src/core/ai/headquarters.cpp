@@ -8,6 +8,7 @@
 #include "ai/analysis_log.h"
 #include "ai/logistics.h"
 #include "model/arith.h"
+#include "model/bounds.h"
 #include "model/hex_geometry.h"
 #include "orders/command.h"
 #include "orders/new_units.h"
@@ -17,8 +18,6 @@ namespace mf {
 namespace {
 
 constexpr Long kOutOfReach = 999;
-
-int Cur() { return ValidRegime(Game.CurRegime) ? static_cast<int>(Game.CurRegime) : 0; }
 
 bool ValidArea(Long a) { return a >= 1 && a <= kAreaCap; }
 
@@ -30,7 +29,7 @@ struct Place {
 // Every unit of Game.CurRegime in the stacks, in scan order.
 std::vector<Place> OwnUnits() {
   std::vector<Place> all;
-  const int r = Cur();
+  const int r = CurrentRegime();
   for (int x = 1; x <= Game.MapW; ++x)
     for (int y = 1; y <= Game.MapH; ++y)
       for (int s = 1; s <= kStackSlots; ++s) {
@@ -83,7 +82,7 @@ Place Where(int unit, const std::vector<Place>& all) {
 }  // namespace
 
 void AINewShq() {
-  const int r = Cur();
+  const int r = CurrentRegime();
   if (r == 0) return;
   const std::vector<ShqPlace> shqs = AIShqsOnMap(false);
   const int areas = std::min<int>(AI.AreaCount, kAreaCap);
@@ -131,7 +130,7 @@ void AINewShq() {
 }
 
 void AINewThq() {
-  const int r = Cur();
+  const int r = CurrentRegime();
   if (r == 0) return;
   for (int f = 1; f <= AI.FrontCount && f <= kFrontCap; ++f) {
     const Long own = AI.FrontOwnArea[f];
@@ -195,7 +194,7 @@ void AINewThq() {
 }
 
 void AIAssignBoss() {
-  const int r = Cur();
+  const int r = CurrentRegime();
   if (r == 0) return;
   const std::vector<Place> all = OwnUnits();
   for (const Place& p : all) {

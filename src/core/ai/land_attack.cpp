@@ -6,6 +6,7 @@
 #include "ai/unit_worth.h"
 #include "engine/diplomacy.h"
 #include "model/arith.h"
+#include "model/bounds.h"
 #include "model/game_state.h"
 #include "model/hex_geometry.h"
 
@@ -13,7 +14,6 @@ namespace mf {
 namespace {
 
 
-int Cur() { return ValidRegime(static_cast<int>(Game.CurRegime)) ? static_cast<int>(Game.CurRegime) : 0; }
 
 // A unit next to the target that can join an attack on it.
 bool Attacker(int u) {
@@ -74,10 +74,10 @@ void AILandAttack(int f, double D) {
   const long own = AI.FrontOwnArea[f];
   const long other = AI.FrontEnemyArea[f];
   if (other <= 0) return;
-  const int r = Cur();
+  const int r = CurrentRegime();
   ListClear();
-  for (int x = 1; x <= AIMapW(); ++x) {
-    for (int y = 1; y <= AIMapH(); ++y) {
+  for (int x = 1; x <= MapW(); ++x) {
+    for (int y = 1; y <= MapH(); ++y) {
       const HexRec& h = Hex[x][y];
       if (h.Area != other || h.Owner == Game.CurRegime || h.Unit[1] == 0) continue;
       if (h.Owner != 0 && AtPeace(r, static_cast<int>(h.Owner))) continue;

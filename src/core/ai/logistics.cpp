@@ -6,6 +6,7 @@
 #include "ai/analysis_log.h"
 #include "engine/supply_flood.h"
 #include "model/arith.h"
+#include "model/bounds.h"
 #include "model/hex_geometry.h"
 #include "orders/transfer.h"
 
@@ -13,8 +14,6 @@ namespace mf {
 namespace {
 
 constexpr Long kOutOfReach = 999;
-
-int Cur() { return ValidRegime(Game.CurRegime) ? static_cast<int>(Game.CurRegime) : 0; }
 
 }  // namespace
 
@@ -38,7 +37,7 @@ bool AIHandOver(const ShqPlace& from, int toX, int toY, int toSlot) {
 
 std::vector<ShqPlace> AIShqsOnMap(bool ownHexOnly) {
   std::vector<ShqPlace> found;
-  const int r = Cur();
+  const int r = CurrentRegime();
   if (r == 0) return found;
   for (int x = 1; x <= Game.MapW; ++x)
     for (int y = 1; y <= Game.MapH; ++y) {
@@ -67,8 +66,6 @@ Long AIShqReach(int x, int y, int shq) {
     return kOutOfReach;
   return Hex[x][y].ShqDist[Unit[shq].Shq];
 }
-
-int AIStockWidth() { return std::clamp<int>(EV(616), 0, kStockCap); }
 
 void AIAreasToShq() {
   if (AI.FrontCount == 0) return;
@@ -100,7 +97,7 @@ void AIAreasToShq() {
   // An area that got its SHQ from a neighbour does not pass it on in the same
   // round, so each SHQ reaches out one step further per round.
   bool received[kAreaCap + 1] = {};
-  const int areas = std::clamp<int>(AI.AreaCount, 0, kAreaCap);
+  const int areas = Held(AI.AreaCount, kAreaCap);
   for (int n = 1; n <= 5; ++n)
     for (int a = 1; a <= areas; ++a) {
       if (AI.AreaShq[a] == 0 || received[a]) continue;
@@ -149,16 +146,16 @@ void AITownsToShq() {
 }
 
 void AIShqToShq() {
-  const int r = Cur();
+  const int r = CurrentRegime();
   if (r == 0) return;
   const std::vector<ShqPlace> shqs = AIShqsOnMap(true);
   std::vector<bool> received(shqs.size(), false);
-  const int areas = std::clamp<int>(AI.AreaCount, 0, kAreaCap);
+  const int areas = Held(AI.AreaCount, kAreaCap);
   for (std::size_t g = 0; g < shqs.size(); ++g) {
     if (received[g]) continue;
     const ShqPlace& giver = shqs[g];
     ShqRec& pool = Shq[r][Unit[giver.unit].Shq];
-    for (int k = 1; k <= AIStockWidth(); ++k) {
+    for (int k = 1; k <= StockWidth(); ++k) {
       const Long type = pool.StockType[k];
       const Long qty = pool.StockQty[k];
       if (!ValidType(type) || qty <= 0) continue;

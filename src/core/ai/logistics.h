@@ -6,6 +6,7 @@
 
 #include <vector>
 
+#include "model/bounds.h"
 #include "model/game_state.h"
 
 namespace mf {
@@ -31,15 +32,13 @@ bool AISeaBeside(int x, int y);
 // (Hex.ShqDist under its number); 999 when the unit is no SHQ of the regime.
 Long AIShqReach(int x, int y, int shq);
 
-// The stock slots of an SHQ unit in use (engine variable 616, held to the
-// table), and the last slot whose type matches `want` with a quantity above
-// `above` (0 when none). `want` gets the type.
-int AIStockWidth();
+// The last stock slot of an SHQ unit in use whose type matches `want` with a
+// quantity above `above` (0 when none). `want` gets the type.
 template <class Want>
 int AILastStockSlot(int shq, Long above, Want want) {
   const ShqRec& pool = Shq[Unit[shq].Regime][Unit[shq].Shq];
   int found = 0;
-  for (int k = 1; k <= AIStockWidth(); ++k) {
+  for (int k = 1; k <= StockWidth(); ++k) {
     const Long t = pool.StockType[k];
     if (ValidType(t) && pool.StockQty[k] > above && want(static_cast<int>(t))) found = k;
   }

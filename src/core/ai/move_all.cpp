@@ -7,6 +7,7 @@
 #include "ai/sorted_list.h"
 #include "ai/unit_worth.h"
 #include "ai/value_field.h"
+#include "model/bounds.h"
 #include "model/game_state.h"
 #include "model/hex_geometry.h"
 #include "orders/flood.h"
@@ -44,8 +45,8 @@ bool InClass(int u, int unitClass, int x, int y) {
 void AIMoveAll(int f, int unitClass) {
   std::vector<bool> moved(kUnitCap + 1, false);
   const bool noLandBorder = AINoLandBorder(f);
-  for (int x = 1; x <= AIMapW(); ++x) {
-    for (int y = 1; y <= AIMapH(); ++y) {
+  for (int x = 1; x <= MapW(); ++x) {
+    for (int y = 1; y <= MapH(); ++y) {
       if (Hex[x][y].Land == kSea) continue;
       for (int s = 1; s <= kStackSlots; ++s) {
         const int u = static_cast<int>(Hex[x][y].Unit[s]);
@@ -55,8 +56,8 @@ void AIMoveAll(int f, int unitClass) {
 
         AIFloodFrom(x, y, s);
         ListClear();
-        for (int tx = 1; tx <= AIMapW(); ++tx) {
-          for (int ty = 1; ty <= AIMapH(); ++ty) {
+        for (int tx = 1; tx <= MapW(); ++tx) {
+          for (int ty = 1; ty <= MapH(); ++ty) {
             const HexRec& t = Hex[tx][ty];
             if (t.Work <= 0 || t.Mark >= 999 || (tx == x && ty == y)) continue;
             long score = t.Work - 3L * t.Mark;

@@ -10,6 +10,7 @@
 #include "ai/shipping.h"
 #include "ai/value_field.h"
 #include "model/arith.h"
+#include "model/bounds.h"
 #include "model/game_state.h"
 
 namespace mf {
@@ -25,8 +26,8 @@ void AISupplyRatio() {
   double made = 0;
   double wanted = 0;
   const long divider = EV(201);
-  for (int x = 1; x <= AIMapW(); ++x) {
-    for (int y = 1; y <= AIMapH(); ++y) {
+  for (int x = 1; x <= MapW(); ++x) {
+    for (int y = 1; y <= MapH(); ++y) {
       const HexRec& h = Hex[x][y];
       if (h.Owner != Game.CurRegime) continue;
       for (int s = 1; s <= kStackSlots; ++s) {

@@ -8,6 +8,7 @@
 #include "engine/diplomacy.h"
 #include "engine/research.h"
 #include "model/arith.h"
+#include "model/bounds.h"
 #include "model/hex_geometry.h"
 #include "model/rnd.h"
 #include "orders/move_allowance.h"
@@ -15,8 +16,6 @@
 
 namespace mf {
 namespace {
-
-int Cur() { return ValidRegime(Game.CurRegime) ? static_cast<int>(Game.CurRegime) : 0; }
 
 Long AttrOf(Long type, int attr) { return ValidType(type) ? Type[type].Attr[attr] : 0; }
 
@@ -36,7 +35,7 @@ Long SeaLift(int ship) { return AttrOf(Unit[ship].MobType, kCarryCap) * Unit[shi
 // Calls f(x, y, unit) for every unit of Game.CurRegime in the stacks, in scan order.
 template <class F>
 void ForOwnUnits(F f) {
-  const int r = Cur();
+  const int r = CurrentRegime();
   for (int x = 1; x <= Game.MapW; ++x)
     for (int y = 1; y <= Game.MapH; ++y)
       for (int s = 1; s <= kStackSlots; ++s) {
@@ -64,7 +63,7 @@ void ShareFalls(Long type, Long pop, Long total) {
 // regime's people may own: what a town makes when the chosen type is foreign
 // to it.
 Long FirstLivedInfantry(Long people) {
-  const Long own = Regime[Cur()].OwnPeople;
+  const Long own = Regime[CurrentRegime()].OwnPeople;
   for (int t = 1; t <= kTypeCap; ++t) {
     const TypeRec& ty = Type[t];
     if (ty.Theater != kLandTheater || ty.Class != 1) continue;
@@ -167,7 +166,7 @@ bool FrontWants(int q) {
 
 // Fighters against the foreign air force at war, and escorts for own bombers.
 void AirWants(int q) {
-  const int r = Cur();
+  const int r = CurrentRegime();
   double foreign = 0, own = 0, bombers = 0;
   for (int x = 1; x <= Game.MapW; ++x)
     for (int y = 1; y <= Game.MapH; ++y)
@@ -212,7 +211,7 @@ int AICountTowns() {
 }
 
 void AIResearch() {
-  const int r = Cur();
+  const int r = CurrentRegime();
   if (r == 0 || AICountTowns() > 0) return;
   if (Rnd() < 0.8f) return;
   for (int f = 1; f <= kResearchCap; ++f) {
@@ -226,7 +225,7 @@ void AIResearch() {
 }
 
 void AIBestType() {
-  const int r = Cur();
+  const int r = CurrentRegime();
   const Long own = Regime[r].OwnPeople;
   for (int t = 0; t < kAITheaters; ++t)
     for (int c = 1; c <= kAIClasses; ++c) {
@@ -283,7 +282,7 @@ void AISeaLift() {
 }
 
 void AIProduction() {
-  const int r = Cur();
+  const int r = CurrentRegime();
   if (r == 0 || AI.FrontCount == 0) return;
   AIBestType();
   const int neutralTowns = AICountTowns();

@@ -7,6 +7,7 @@
 #include "ai/sorted_list.h"
 #include "ai/unit_worth.h"
 #include "model/arith.h"
+#include "model/bounds.h"
 #include "model/counter_pic.h"
 #include "model/game_state.h"
 #include "model/stack.h"
@@ -60,8 +61,8 @@ bool MergeWhole(int x, int y, int from, int into) {
 void Split(int f) {
   const long balance = AI.FrontBalance[f];
   ListClear();
-  for (int x = 1; x <= AIMapW(); ++x) {
-    for (int y = 1; y <= AIMapH(); ++y) {
+  for (int x = 1; x <= MapW(); ++x) {
+    for (int y = 1; y <= MapH(); ++y) {
       const HexRec& h = Hex[x][y];
       const int u = static_cast<int>(h.Unit[1]);
       if (!Mine(u) || Unit[u].Front != f || h.Unit[2] != 0) continue;
@@ -111,8 +112,8 @@ void Merge(int f) {
   if (n > 6) divisor = 2;
   if (n > 10) divisor = 1;
   const double limit = static_cast<double>(EV(102)) / static_cast<double>(divisor);
-  for (int x = 1; x <= AIMapW() && n > 0; ++x) {
-    for (int y = 1; y <= AIMapH() && n > 0; ++y) {
+  for (int x = 1; x <= MapW() && n > 0; ++x) {
+    for (int y = 1; y <= MapH() && n > 0; ++y) {
       if (Hex[x][y].Owner != Game.CurRegime) continue;
       bool merged = true;
       while (merged && n > 0) {
@@ -157,8 +158,8 @@ void AIUnitSplitMerge() {
 }
 
 void AIMergeNaval() {
-  for (int x = 1; x <= AIMapW(); ++x) {
-    for (int y = 1; y <= AIMapH(); ++y) {
+  for (int x = 1; x <= MapW(); ++x) {
+    for (int y = 1; y <= MapH(); ++y) {
       bool merged = true;
       while (merged) {
         merged = false;

@@ -8,6 +8,7 @@
 #include "ai/unit_worth.h"
 #include "engine/diplomacy.h"
 #include "model/arith.h"
+#include "model/bounds.h"
 #include "model/game_state.h"
 #include "model/hex_geometry.h"
 #include "orders/flood.h"
@@ -19,7 +20,6 @@ namespace mf {
 namespace {
 
 bool OnMap(HexXY n) { return n.x > 0 && n.y > 0; }
-int Cur() { return ValidRegime(static_cast<int>(Game.CurRegime)) ? static_cast<int>(Game.CurRegime) : 0; }
 
 constexpr int kSeaWaves = 30;
 constexpr const char* kWarshipsInPort = "AI cannot invade town with warships. yep this is bug.";
@@ -37,8 +37,8 @@ struct Place {
   int x = 0, y = 0, slot = 0;
 };
 Place Find(int u) {
-  for (int x = 1; x <= AIMapW(); ++x)
-    for (int y = 1; y <= AIMapH(); ++y)
+  for (int x = 1; x <= MapW(); ++x)
+    for (int y = 1; y <= MapH(); ++y)
       for (int s = 1; s <= kStackSlots; ++s)
         if (Hex[x][y].Unit[s] == u) return {x, y, s};
   return {};
@@ -82,7 +82,7 @@ void Board(int ship, const Place& at) {
 Place LandingSite(const Place& at, long other) {
   Place best;
   long least = 0;
-  const int r = Cur();
+  const int r = CurrentRegime();
   for (int d = 1; d <= kHexSides; ++d) {
     const HexXY n = Neighbour(at.x, at.y, d);
     if (!OnMap(n)) continue;
@@ -147,8 +147,8 @@ bool Land(int ship, const Place& site) {
 }  // namespace
 
 void AISeaField(int f, int mode) {
-  for (int x = 1; x <= AIMapW(); ++x) {
-    for (int y = 1; y <= AIMapH(); ++y) {
+  for (int x = 1; x <= MapW(); ++x) {
+    for (int y = 1; y <= MapH(); ++y) {
       Hex[x][y].Work = 0;
       Hex[x][y].Mark = 0;
     }
@@ -156,8 +156,8 @@ void AISeaField(int f, int mode) {
   if (!AIValidFront(f)) return;
   const long area = mode == 1 ? AI.FrontEnemyArea[f] : AI.FrontOwnArea[f];
   if (area <= 0) return;
-  for (int x = 1; x <= AIMapW(); ++x) {
-    for (int y = 1; y <= AIMapH(); ++y) {
+  for (int x = 1; x <= MapW(); ++x) {
+    for (int y = 1; y <= MapH(); ++y) {
       HexRec& h = Hex[x][y];
       if (h.Land != kUrban || h.Area != area) continue;
       h.Work = mode == 1 ? 100 : 200;
@@ -185,8 +185,8 @@ void AIMoveShip(int x, int y, int slot) {
   if (!AILive(ship)) return;
   AIFloodFrom(x, y, slot);
   ListClear();
-  for (int tx = 1; tx <= AIMapW(); ++tx) {
-    for (int ty = 1; ty <= AIMapH(); ++ty) {
+  for (int tx = 1; tx <= MapW(); ++tx) {
+    for (int ty = 1; ty <= MapH(); ++ty) {
       const HexRec& t = Hex[tx][ty];
       if (t.Work > 0 && t.Mark < 999) ListAdd(tx, ty, t.Work - t.Mark);
     }
@@ -211,8 +211,8 @@ bool AIShipping(int f) {
   const int farX = static_cast<int>(AI.AreaX[other]), farY = static_cast<int>(AI.AreaY[other]);
 
   std::vector<int> ships;
-  for (int x = 1; x <= AIMapW(); ++x)
-    for (int y = 1; y <= AIMapH(); ++y)
+  for (int x = 1; x <= MapW(); ++x)
+    for (int y = 1; y <= MapH(); ++y)
       for (int s = 1; s <= kStackSlots; ++s) {
         const long u = Hex[x][y].Unit[s];
         if (AILive(u) && Unit[u].Regime == Game.CurRegime && Unit[u].Theater == kSeaTheater && Unit[u].Front == f)
@@ -234,7 +234,7 @@ bool AIShipping(int f) {
     if (cargo == 0) continue;
     // 3. The other side is at peace now: the ship stands down.
     const long farOwner = ValidHex(farX, farY) ? Hex[farX][farY].Owner : 0;
-    if (farOwner > 0 && AtPeace(Cur(), static_cast<int>(farOwner))) {
+    if (farOwner > 0 && AtPeace(CurrentRegime(), static_cast<int>(farOwner))) {
       Unit[ship].Front = 0;
       continue;
     }

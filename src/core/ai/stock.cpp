@@ -9,6 +9,7 @@
 #include "ai/unit_worth.h"
 #include "engine/supply_flood.h"
 #include "model/arith.h"
+#include "model/bounds.h"
 #include "model/hex_geometry.h"
 #include "orders/move_allowance.h"
 #include "orders/new_units.h"
@@ -19,7 +20,6 @@ namespace {
 
 constexpr Long kOutOfReach = 999;
 
-int Cur() { return ValidRegime(Game.CurRegime) ? static_cast<int>(Game.CurRegime) : 0; }
 bool ValidArea(Long a) { return a >= 1 && a <= kAreaCap; }
 bool ValidFront(Long f) { return f >= 1 && f <= AI.FrontCount && f <= kFrontCap; }
 Long AttrOf(Long type, int attr) { return ValidType(type) ? Type[type].Attr[attr] : 0; }
@@ -31,7 +31,7 @@ struct Place {
 // Where each unit of the regime stands, by unit number; x 0 for none.
 std::vector<Place> Positions() {
   std::vector<Place> at(kUnitCap + 1);
-  const int r = Cur();
+  const int r = CurrentRegime();
   for (int x = 1; x <= Game.MapW; ++x)
     for (int y = 1; y <= Game.MapH; ++y)
       for (int s = 1; s <= kStackSlots; ++s) {
@@ -45,7 +45,7 @@ std::vector<Place> Positions() {
 // stacks, in scan order.
 template <class F>
 void ForLandFormations(F f) {
-  const int r = Cur();
+  const int r = CurrentRegime();
   for (int x = 1; x <= Game.MapW; ++x)
     for (int y = 1; y <= Game.MapH; ++y)
       for (int s = 1; s <= kStackSlots; ++s) {
@@ -57,7 +57,7 @@ void ForLandFormations(F f) {
 
 // The cursor of the walk wraps at a quarter of the regime's units.
 int CursorWrap() {
-  const int r = Cur();
+  const int r = CurrentRegime();
   int n = 0;
   for (int u = 1; u <= kUnitCap; ++u)
     if (Unit[u].Regime == r && r != 0) ++n;
@@ -154,7 +154,7 @@ void AIStockInf() {
 }
 
 void AIStockArt() {
-  const int r = Cur();
+  const int r = CurrentRegime();
   for (const ShqPlace& q : AIShqsOnMap(true)) {
     UI.OrdX = q.x;
     UI.OrdY = q.y;
@@ -208,7 +208,7 @@ void AIStockMob() {
     // The SHQ keeps the trucks it needs to carry its own infantry and guns.
     const ShqRec& pool = PoolOf(q.unit);
     Long ownLoad = 0;
-    for (int k = 1; k <= AIStockWidth(); ++k) {
+    for (int k = 1; k <= StockWidth(); ++k) {
       const Long t = pool.StockType[k];
       if (ValidType(t) && Type[t].Theater == kLandTheater && (Type[t].Class == 1 || Type[t].Class == 3))
         ownLoad += AttrOf(t, kWeight) * pool.StockQty[k];
@@ -269,7 +269,7 @@ namespace {
 // area chosen by `score` among the fronts within 5 land steps.
 template <class Score>
 void BuildFromStock(int theater, int cls, Score score) {
-  const int r = Cur();
+  const int r = CurrentRegime();
   if (r == 0) return;
   for (const ShqPlace& q : AIShqsOnMap(true)) {
     const int k = AILastStockSlot(q.unit, 0, [&](int t) { return Type[t].Theater == theater && Type[t].Class == cls; });

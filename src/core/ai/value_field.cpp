@@ -4,6 +4,7 @@
 #include "ai/ai_state.h"
 #include "ai/unit_worth.h"
 #include "model/arith.h"
+#include "model/bounds.h"
 #include "model/game_state.h"
 #include "model/hex_geometry.h"
 
@@ -27,8 +28,8 @@ long StackWorth(int x, int y) {
 // The line: hexes of the own area that look into the other area over land.
 void LineHexes(int f, long own, long other, long stance) {
   int c = 0;
-  for (int x = 1; x <= AIMapW(); ++x) {
-    for (int y = 1; y <= AIMapH(); ++y) {
+  for (int x = 1; x <= MapW(); ++x) {
+    for (int y = 1; y <= MapH(); ++y) {
       HexRec& h = Hex[x][y];
       if (h.Land == kSea || h.Area != own) continue;
       bool line = false;
@@ -165,8 +166,8 @@ Long ClassValue(int x, int y, int unitClass) {
 
 // The field and its scratch planes to 0 on the whole map.
 void ClearField() {
-  for (int x = 1; x <= AIMapW(); ++x) {
-    for (int y = 1; y <= AIMapH(); ++y) {
+  for (int x = 1; x <= MapW(); ++x) {
+    for (int y = 1; y <= MapH(); ++y) {
       HexRec& h = Hex[x][y];
       h.Mark = 0;
       h.ScratchRecon = 0;
@@ -213,8 +214,8 @@ void AIHexValues(int f, double P, int unitClass) {
 
   if (unitClass == kAIStaffClass || unitClass == kAIShqClass || unitClass == kAIAirClass) {
     // Each hex's new value depends on its own old value only.
-    for (int x = 1; x <= AIMapW(); ++x)
-      for (int y = 1; y <= AIMapH(); ++y) Hex[x][y].Work = ClassValue(x, y, unitClass);
+    for (int x = 1; x <= MapW(); ++x)
+      for (int y = 1; y <= MapH(); ++y) Hex[x][y].Work = ClassValue(x, y, unitClass);
   }
 }
 

@@ -4,11 +4,10 @@
 
 #include "control/turn_cycle.h"
 #include "model/arith.h"
+#include "model/bounds.h"
 
 namespace mf {
 namespace {
-
-int LastRegime() { return std::clamp<int>(Game.RegimeCount, 0, kRegimeCap); }
 
 void EveryRegimeComputerRun() {
   for (int r = 1; r <= LastRegime(); ++r) Regime[r].AI = 1;

@@ -3,6 +3,7 @@
 #include "control/scenario_flow.h"
 #include "engine/news.h"
 #include "model/arith.h"
+#include "model/bounds.h"
 #include "model/game_state.h"
 #include "model/labels.h"
 #include "platform/paths.h"
@@ -10,12 +11,7 @@
 namespace mf {
 namespace {
 
-RegimeRec& Current() { return Regime[ValidRegime(Game.CurRegime) ? Game.CurRegime : 0]; }
-
-int HeldRegimeCount() {
-  if (Game.RegimeCount < 0) return 0;
-  return Game.RegimeCount > kRegimeCap ? kRegimeCap : static_cast<int>(Game.RegimeCount);
-}
+RegimeRec& Current() { return Regime[CurrentRegime()]; }
 
 // One row per class that counts something, "Infantry: 5"; "None" when no
 // class does.
@@ -60,7 +56,7 @@ void Headline(NewTurnDialog& d) {
 }  // namespace
 
 std::string NextHumanEmail() {
-  const int last = HeldRegimeCount();
+  const int last = LastRegime();
   const int from = Game.CurRegime < 1 ? 1 : static_cast<int>(Game.CurRegime);
   for (int r = from; r <= last; ++r)
     if (Regime[r].AI == 0) return Regime[r].Email;
@@ -100,7 +96,7 @@ void NewTurnDialog::Prepare() {
   // 6. Lists. Of the surrender and resignation lines the last one found counts.
   newsRows.clear();
   rememberedNotice = 0;
-  const int r = ValidRegime(Game.CurRegime) ? static_cast<int>(Game.CurRegime) : 0;
+  const int r = CurrentRegime();
   for (int n = 1; n <= kNewsCap; ++n) {
     const NewsRec& line = News[r][n];
     if (line.Type == kNewsLost || line.Type > 900) newsRows.push_back(line.Text);

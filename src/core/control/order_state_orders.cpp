@@ -24,6 +24,7 @@
 #include "orders/sight.h"
 #include "orders/transport.h"
 #include "platform/platform.h"
+#include "platform/text_case.h"
 
 namespace mf {
 
@@ -66,11 +67,6 @@ constexpr int kSoundMoveShip = 15;   // "mov_ship.wav"
 
 long AttrOf(long type, int attr) { return ValidType(static_cast<int>(type)) ? Type[type].Attr[attr] : 0; }
 
-std::string Upper(std::string s) {
-  for (char& c : s)
-    if (c >= 'a' && c <= 'z') c = static_cast<char>(c - 'a' + 'A');
-  return s;
-}
 
 // No formation is joined to the attack.
 void ClearAttackers() {
@@ -218,7 +214,7 @@ void AttackButton() {
     return;
   }
   const long regime = Unit[UnitAt(UI.SelX, UI.SelY, 1)].Regime;
-  if (ValidRegime(static_cast<int>(regime)) && Dip[Cur()][regime].Relation == 1) {
+  if (ValidRegime(static_cast<int>(regime)) && Dip[CurrentRegime()][regime].Relation == 1) {
     Say("You cannot attack units from a player you are at peace with");
     return;
   }

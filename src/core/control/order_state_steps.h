@@ -7,12 +7,12 @@
 #include <string>
 
 #include "control/selection.h"
+#include "model/bounds.h"
 #include "model/game_state.h"
 #include "platform/platform.h"
 
 namespace mf::order_steps {
 
-inline int Cur() { return ValidRegime(static_cast<int>(Game.CurRegime)) ? static_cast<int>(Game.CurRegime) : 0; }
 inline bool Editing() { return UI.EditMode == 1; }
 
 inline void Click() {

@@ -3,7 +3,6 @@
 #include "view/draw_hex.h"
 
 #include <algorithm>
-#include <cctype>
 #include <cstdint>
 #include <filesystem>
 #include <system_error>
@@ -18,6 +17,7 @@
 #include "engine/start_game_dialog.h"
 #include "engine/supply.h"
 #include "model/arith.h"
+#include "model/bounds.h"
 #include "model/game_state.h"
 #include "model/hex_geometry.h"
 #include "model/reset.h"
@@ -27,6 +27,7 @@
 #include "orders/sight.h"
 #include "platform/paths.h"
 #include "platform/platform.h"
+#include "platform/text_case.h"
 
 namespace mf {
 namespace {
@@ -53,26 +54,11 @@ void Step(const char* name, int a, int b = -1, int c = -1) {
   Watcher()(text);
 }
 
-int Held(long count, int cap) {
-  if (count < 0) return 0;
-  return count > cap ? cap : static_cast<int>(count);
-}
-int MapW() { return Held(Game.MapW, kMapCap); }
-int MapH() { return Held(Game.MapH, kMapCap); }
-int LastRegime() { return Held(Game.RegimeCount, kRegimeCap); }
-// The current regime as an index; bad data reads as the empty slot 0.
-int Cur() { return ValidRegime(Game.CurRegime) ? static_cast<int>(Game.CurRegime) : 0; }
-
 // The busy pointer tells the player to wait, and tells the timer that the
 // driver is running so that it leaves computer turns alone.
 void SetBusyPointer(bool busy) {
   UI.BusyPointer = busy;
   Plat().SetBusy(busy);
-}
-
-std::string Lower(std::string s) {
-  std::transform(s.begin(), s.end(), s.begin(), [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
-  return s;
 }
 
 // The events that fired this game turn and concern the current regime, in
@@ -100,7 +86,7 @@ void ClearReportOf(int r) {
 
 // Step 2 of the driver: the regime's towns heal and are counted for victory.
 void CountPopulation() {
-  const int r = Cur();
+  const int r = CurrentRegime();
   std::int64_t sum = 0;
   for (int x = 1; x <= MapW(); ++x) {
     for (int y = 1; y <= MapH(); ++y) {
@@ -125,7 +111,7 @@ void PlaceNewsMarks() {
   for (int x = 1; x <= MapW(); ++x)
     for (int y = 1; y <= MapH(); ++y)
       for (int m = 1; m <= kSightRegimes; ++m) Hex[x][y].NewsMark[m] = 0;
-  const int r = Cur();
+  const int r = CurrentRegime();
   for (int n = 1; n <= kNewsCap; ++n) {
     const NewsRec& line = News[r][n];
     if (line.Type < 2 || line.Type > 99 || line.X <= 0 || line.Y <= 0) continue;
@@ -138,7 +124,7 @@ void PlaceNewsMarks() {
 // computer player remembered of them; every formation of every regime waits
 // for the supply pass to give it a new percentage.
 void SweepUnits() {
-  const int last = Held(Game.UnitCount, kUnitCap);
+  const int last = LastUnit();
   for (int u = 1; u <= last; ++u) {
     UnitRec& unit = Unit[u];
     unit.FromX = 0;
@@ -156,7 +142,7 @@ void SweepUnits() {
 
 // Step 10: one hex loop for the regime's formations and then its town.
 void RecoveryAndTowns() {
-  const int r = Cur();
+  const int r = CurrentRegime();
   for (int x = 1; x <= MapW(); ++x) {
     for (int y = 1; y <= MapH(); ++y) {
       for (int slot = 1; slot <= kStackSlots; ++slot) {
@@ -272,7 +258,7 @@ void NextTurn() {
       Game.CurRegime = 1;
     }
   }
-  const int r = Cur();
+  const int r = CurrentRegime();
 
   // 2. Population and victory.
   CountPopulation();
@@ -422,7 +408,7 @@ void SurrenderCommand() {
     return;
   }
   if (humans < 2) return;
-  const int me = Cur();
+  const int me = CurrentRegime();
   const int kind = humans == 2 ? kNewsSurrender : kNewsResignation;
   for (int r = 1; r <= LastRegime(); ++r)
     if (r != me && Regime[r].AI == 0) AddNews(r, 0, kind, Regime[me].Name + " surrendered.", 0, 0, 0);

@@ -4,13 +4,12 @@
 
 #include "editor/edit_input.h"
 #include "model/arith.h"
+#include "model/bounds.h"
 #include "model/game_state.h"
 #include "model/labels.h"
 
 namespace mf {
 namespace {
-
-int Types() { return std::clamp<int>(Game.TypeCount, 0, kTypeCap); }
 
 const char* const kClassNames[4][2] = {
     {"INFTYPE", "INFQTY"}, {"MOBTYPE", "MOBQTY"}, {"ARTTYPE", "ARTQTY"}, {"ARMTYPE", "ARMQTY"}};
@@ -66,7 +65,7 @@ void CurrentUnitDialog::Refill() {
   stockLine.clear();
   stockEnabled = false;
   typeRow = pickedType - 1;
-  for (int t = 1; t <= Types(); ++t) {
+  for (int t = 1; t <= LastType(); ++t) {
     const std::string& word = ClassWord(Type[t].Theater, Type[t].Class);
     typeRows.push_back(NumText(t) + ") " + (word.empty() ? std::string("n/a") : word) + " " + Type[t].Name);
   }
@@ -91,8 +90,8 @@ void CurrentUnitDialog::Refill() {
 }
 
 bool CurrentUnitDialog::PickType(int t, std::string* why) {
-  if (t < 1 || t > Types()) {
-    *why = "there is no type " + std::to_string(t) + " (the list holds 1.." + std::to_string(Types()) + ")";
+  if (t < 1 || t > LastType()) {
+    *why = "there is no type " + std::to_string(t) + " (the list holds 1.." + std::to_string(LastType()) + ")";
     return false;
   }
   pickedType = t;

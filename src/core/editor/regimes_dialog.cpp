@@ -5,6 +5,7 @@
 
 #include "editor/edit_input.h"
 #include "model/arith.h"
+#include "model/bounds.h"
 #include "model/game_state.h"
 #include "model/reset.h"
 
@@ -18,9 +19,6 @@ constexpr int kPortraitSets = 6;
 constexpr long kFirstOverrule = 811;
 constexpr long kLastOverrule = 830;
 
-int Regimes() { return std::clamp<int>(Game.RegimeCount, 0, kRegimeCap); }
-int Peoples() { return std::clamp<int>(Game.PeopleCount, 0, kPeopleCap); }
-
 }  // namespace
 
 std::string ColourText(long bgr) {
@@ -31,16 +29,16 @@ std::string ColourText(long bgr) {
 
 void RegimesDialog::Prepare() {
   open = true;
-  selected = Regimes() >= 1 ? 1 : 0;
-  selectedPeople = Peoples() >= 1 ? 1 : 0;
+  selected = LastRegime() >= 1 ? 1 : 0;
+  selectedPeople = LastPeople() >= 1 ? 1 : 0;
   Refill();
 }
 
 void RegimesDialog::Refill() {
-  if (selected > Regimes()) selected = 0;
-  if (selectedPeople > Peoples()) selectedPeople = 0;
+  if (selected > LastRegime()) selected = 0;
+  if (selectedPeople > LastPeople()) selectedPeople = 0;
   regimeRows.clear();
-  for (int r = 1; r <= Regimes(); ++r) regimeRows.push_back(NumText(r) + ") " + Regime[r].Name);
+  for (int r = 1; r <= LastRegime(); ++r) regimeRows.push_back(NumText(r) + ") " + Regime[r].Name);
   regimeRow = selected - 1;
   nameValue = hexColorValue = peopleValue = ppValue = formationValue = emailValue = setsValue = introValue = "";
   textColorValue = peopleName = "";
@@ -61,7 +59,7 @@ void RegimesDialog::Refill() {
   }
 
   peopleRows.clear();
-  for (int p = 1; p <= Peoples(); ++p) peopleRows.push_back(NumText(p) + ") " + People[p].Name);
+  for (int p = 1; p <= LastPeople(); ++p) peopleRows.push_back(NumText(p) + ") " + People[p].Name);
   peopleRow = selectedPeople - 1;
   peopleNameValue = overruleValue = "";
   firstNames.clear();
@@ -76,8 +74,8 @@ void RegimesDialog::Refill() {
 }
 
 bool RegimesDialog::Select(int r, std::string* why) {
-  if (r < 1 || r > Regimes()) {
-    *why = "there is no regime " + std::to_string(r) + " (the list holds 1.." + std::to_string(Regimes()) + ")";
+  if (r < 1 || r > LastRegime()) {
+    *why = "there is no regime " + std::to_string(r) + " (the list holds 1.." + std::to_string(LastRegime()) + ")";
     return false;
   }
   selected = r;
@@ -86,11 +84,11 @@ bool RegimesDialog::Select(int r, std::string* why) {
 }
 
 void RegimesDialog::NewButton() {
-  if (Regimes() >= kEditorRegimes) {
+  if (LastRegime() >= kEditorRegimes) {
     Plat().ShowMessage("To many regimes allready", "");
     return;
   }
-  const int r = Regimes() + 1;
+  const int r = LastRegime() + 1;
   Game.RegimeCount = r;
   Regime[r] = RegimeRec{};
   SetNewRegimeDefaults(r);
@@ -107,16 +105,16 @@ void RegimesDialog::NewButton() {
 }
 
 void RegimesDialog::DeleteButton() {
-  if (Regimes() == 0) {
+  if (LastRegime() == 0) {
     Plat().ShowMessage("No regimes to delete", "");
     return;
   }
-  if (selected != Regimes()) {
+  if (selected != LastRegime()) {
     Plat().ShowMessage("You can only delete the last player for now.    I know !!!!", "");
     return;
   }
   // Only the last regime goes, so the numbers of the others stay as they are.
-  const int r = Regimes();
+  const int r = LastRegime();
   Regime[r] = RegimeRec{};
   for (int o = 0; o <= kRegimeCap; ++o) {
     Dip[r][o] = DipRec{};
@@ -153,12 +151,12 @@ void RegimesDialog::SetHexColor(const std::string& value) {
 
 void RegimesDialog::SetPeople(const std::string& value) {
   if (selected == 0) return;
-  if (Peoples() == 0) {
+  if (LastPeople() == 0) {
     Plat().ShowMessage("make ppl first.", "");
     return;
   }
   long n = 0;
-  if (!WholeNumber(value, &n) || n < 1 || n > kEditorRegimes || n > Peoples()) {
+  if (!WholeNumber(value, &n) || n < 1 || n > kEditorRegimes || n > LastPeople()) {
     Plat().ShowMessage("Pick a people between 1-10", "");
     return;
   }
@@ -223,8 +221,8 @@ void RegimesDialog::SetIntro(const std::string& text) {
 }
 
 bool RegimesDialog::SelectPeople(int p, std::string* why) {
-  if (p < 1 || p > Peoples()) {
-    *why = "there is no people " + std::to_string(p) + " (the list holds 1.." + std::to_string(Peoples()) + ")";
+  if (p < 1 || p > LastPeople()) {
+    *why = "there is no people " + std::to_string(p) + " (the list holds 1.." + std::to_string(LastPeople()) + ")";
     return false;
   }
   selectedPeople = p;
@@ -233,11 +231,11 @@ bool RegimesDialog::SelectPeople(int p, std::string* why) {
 }
 
 void RegimesDialog::NewPeopleButton() {
-  if (Peoples() >= kPeopleCap) {
+  if (LastPeople() >= kPeopleCap) {
     Plat().ShowMessage("There can be no more than 20 peoples.", "");
     return;
   }
-  const int p = Peoples() + 1;
+  const int p = LastPeople() + 1;
   Game.PeopleCount = p;
   People[p] = PeopleRec{};
   People[p].Name = "People " + NumText(p);

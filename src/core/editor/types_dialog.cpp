@@ -6,15 +6,14 @@
 #include "engine/type_info_dialog.h"
 #include "editor/type_rules.h"
 #include "model/arith.h"
+#include "model/bounds.h"
 #include "model/game_state.h"
 #include "model/labels.h"
 
 namespace mf {
 namespace {
 
-int Count() { return std::clamp<int>(Game.TypeCount, 0, kTypeCap); }
-int Peoples() { return std::clamp<int>(Game.PeopleCount, 0, kPeopleCap); }
-bool Listed(long t) { return t >= 1 && t <= Count(); }
+bool Listed(long t) { return t >= 1 && t <= LastType(); }
 
 // The class word in the list and over the class box; a type without a
 // valid class or theater reads "n/a".
@@ -27,7 +26,7 @@ std::string ClassLabel(long theater, long cls) {
 
 void TypesDialog::Prepare() {
   open = true;
-  selected = Count() >= 1 ? 1 : 0;
+  selected = LastType() >= 1 ? 1 : 0;
   filter.clear();
   Refill();
 }
@@ -37,7 +36,7 @@ void TypesDialog::Refill() {
   typeOfRow.clear();
   row = -1;
   if (!Listed(selected)) selected = 0;
-  for (int t = 1; t <= Count(); ++t) {
+  for (int t = 1; t <= LastType(); ++t) {
     if (!FilterMatches(filter, t, Type[t].Name)) continue;
     if (t == selected) row = static_cast<int>(rows.size());
     rows.push_back(NumText(t) + ") " + ClassLabel(Type[t].Theater, Type[t].Class) + " " + Type[t].Name);
@@ -76,7 +75,7 @@ void TypesDialog::Refill() {
     attrRows.push_back(TypeAttrLabel(a) + " = " + NumText(ty.Attr[a]));
     attrValues.push_back(ty.Attr[a]);
   }
-  for (int p = 1; p <= Peoples(); ++p) {
+  for (int p = 1; p <= LastPeople(); ++p) {
     livingRows.push_back(std::string(ty.Living[p] == 1 ? "IF " : "NOT IF ") + People[p].Name);
     owningRows.push_back(std::string(ty.Owning[p] == 1 ? "IF " : "NOT IF ") + People[p].Name);
   }
@@ -90,7 +89,7 @@ void TypesDialog::Refill() {
 
 bool TypesDialog::Select(int t, std::string* why) {
   if (!Listed(t)) {
-    *why = "there is no type " + std::to_string(t) + " (the list holds 1.." + std::to_string(Count()) + ")";
+    *why = "there is no type " + std::to_string(t) + " (the list holds 1.." + std::to_string(LastType()) + ")";
     return false;
   }
   selected = t;
@@ -104,11 +103,11 @@ void TypesDialog::SetFilter(const std::string& text) {
 }
 
 void TypesDialog::NewButton() {
-  if (Count() >= kTypeCap) {
+  if (LastType() >= kTypeCap) {
     Plat().ShowMessage("To many types allready", "");
     return;
   }
-  const int t = Count() + 1;
+  const int t = LastType() + 1;
   Game.TypeCount = t;
   Type[t] = TypeRec{};
   Type[t].Name = "Type " + NumText(t);
@@ -119,13 +118,13 @@ void TypesDialog::NewButton() {
 }
 
 void TypesDialog::DeleteButton() {
-  if (Count() == 0) {
+  if (LastType() == 0) {
     Plat().ShowMessage("No types to delete", "");
     return;
   }
   // Only the last type goes, so the numbers of the others stay as they are.
-  Type[Count()] = TypeRec{};
-  Game.TypeCount = Count() - 1;
+  Type[LastType()] = TypeRec{};
+  Game.TypeCount = LastType() - 1;
   Refill();
 }
 
@@ -226,14 +225,14 @@ bool TypesDialog::SetAttr(int attr, const std::string& value) {
 }
 
 void TypesDialog::ToggleLiving(int p) {
-  if (selected == 0 || p < 1 || p > Peoples()) return;
+  if (selected == 0 || p < 1 || p > LastPeople()) return;
   Short& on = Type[selected].Living[p];
   on = on == 1 ? 0 : 1;
   Refill();
 }
 
 void TypesDialog::ToggleOwning(int p) {
-  if (selected == 0 || p < 1 || p > Peoples()) return;
+  if (selected == 0 || p < 1 || p > LastPeople()) return;
   Short& on = Type[selected].Owning[p];
   on = on == 1 ? 0 : 1;
   Refill();
@@ -304,8 +303,8 @@ bool TypesDialog::Act(const std::string& action, const std::string& value, std::
     SetAttr(static_cast<int>(a), value.substr(colon + 1));
   }
   if (action == "living" || action == "owning") {
-    if (!WholeNumber(value, &n) || n < 1 || n > Peoples()) {
-      *why = action + " takes a people number 1.." + std::to_string(Peoples()) + ", not \"" + value + "\"";
+    if (!WholeNumber(value, &n) || n < 1 || n > LastPeople()) {
+      *why = action + " takes a people number 1.." + std::to_string(LastPeople()) + ", not \"" + value + "\"";
       return false;
     }
     if (action == "living") ToggleLiving(static_cast<int>(n));

@@ -7,24 +7,21 @@
 
 #include "engine/event_dialog.h"
 #include "model/arith.h"
+#include "model/bounds.h"
 #include "model/counter_pic.h"
 #include "model/game_state.h"
 #include "model/hex_geometry.h"
 #include "model/rnd.h"
 #include "orders/new_units.h"
 #include "platform/platform.h"
+#include "platform/text_case.h"
 
 namespace mf {
 namespace {
 
-int Held(long count, int cap) {
-  if (count < 0) return 0;
-  return count > cap ? cap : static_cast<int>(count);
-}
-
 // A regime named by event data: one of the scenario's regimes, else 0.
 int RegimeOf(long r) {
-  const int last = Held(Game.RegimeCount, kRegimeCap);
+  const int last = LastRegime();
   return r >= 1 && r <= last ? static_cast<int>(r) : 0;
 }
 
@@ -35,11 +32,6 @@ void RaiseBookVar(long b, long by) {
 }
 
 
-std::string Lower(std::string s) {
-  for (char& c : s)
-    if (c >= 'A' && c <= 'Z') c = static_cast<char>(c - 'A' + 'a');
-  return s;
-}
 
 // ---- Conditions -------------------------------------------------------------
 
@@ -199,8 +191,8 @@ bool PlaceOfNewFormation(const EventRec& ev, int r, int* px, int* py) {
 int NearestThq(int r, int px, int py) {
   int best = 0;
   long bestScore = std::numeric_limits<long>::min();
-  const int w = Held(Game.MapW, kMapCap);
-  const int h = Held(Game.MapH, kMapCap);
+  const int w = MapW();
+  const int h = MapH();
   for (int x = 1; x <= w; ++x) {
     for (int y = 1; y <= h; ++y) {
       for (int s = 1; s <= kStackSlots; ++s) {

@@ -3,6 +3,7 @@
 #include <cstdint>
 
 #include "model/arith.h"
+#include "model/bounds.h"
 #include "model/game_state.h"
 #include "model/rnd.h"
 
@@ -157,7 +158,7 @@ OfficerView ViewOfOfficer(int o, const std::string& none) {
 // ---- The Officerpool dialog --------------------------------------------------
 
 void OfficerPoolDialog::Prepare(bool editing) {
-  regime = ValidRegime(static_cast<int>(Game.CurRegime)) ? static_cast<int>(Game.CurRegime) : 0;
+  regime = CurrentRegime();
   editButtonsShown = editing;
   unit = 0;
   if (ValidHex(static_cast<int>(UI.SelX), static_cast<int>(UI.SelY)) && UI.SelSlot >= 1 &&

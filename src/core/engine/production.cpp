@@ -5,18 +5,13 @@
 
 #include "engine/urban_production_dialog.h"
 #include "model/arith.h"
+#include "model/bounds.h"
 #include "model/game_state.h"
 #include "model/rnd.h"
 #include "platform/platform.h"
 
 namespace mf {
 namespace {
-
-int MapW() { return std::clamp<int>(Game.MapW, 0, kMapCap); }
-int MapH() { return std::clamp<int>(Game.MapH, 0, kMapCap); }
-
-// The stock slots in use: engine variable 616, held inside the table.
-int StockWidth() { return std::clamp<int>(EV(616), 0, kStockCap); }
 
 // Political points of a town: W = H x Pop / engine variable 231, the whole
 // part sure and the fraction a chance. W is kept as a fraction of whole
@@ -79,7 +74,7 @@ long ProducedCount(int type, long points) {
 }
 
 void TownOutput(int x, int y) {
-  const int r = ValidRegime(Game.CurRegime) ? static_cast<int>(Game.CurRegime) : 0;
+  const int r = CurrentRegime();
   if (r == 0 || !ValidHex(x, y)) return;
   HexRec& h = Hex[x][y];
   if (h.Owner != r || h.Pop <= 0 || h.ProdSHQ <= 0 || !ValidUnit(h.ProdSHQ)) return;
@@ -101,7 +96,7 @@ void TownOutput(int x, int y) {
 }
 
 void PoolTransport() {
-  const int r = ValidRegime(Game.CurRegime) ? static_cast<int>(Game.CurRegime) : 0;
+  const int r = CurrentRegime();
   if (r == 0) return;
   for (int x = 1; x <= MapW(); ++x) {
     for (int y = 1; y <= MapH(); ++y) {

@@ -4,13 +4,11 @@
 #include <cstdint>
 
 #include "engine/supply_flood.h"
+#include "model/bounds.h"
 #include "model/game_state.h"
 
 namespace mf {
 namespace {
-
-int MapW() { return std::clamp<int>(Game.MapW, 0, kMapCap); }
-int MapH() { return std::clamp<int>(Game.MapH, 0, kMapCap); }
 
 // The figure of one SHQ: the base supply of the current regime's towns that
 // deliver to it and lie strictly inside the range of the flood just run.

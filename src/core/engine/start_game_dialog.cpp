@@ -3,18 +3,11 @@
 #include <vector>
 
 #include "model/arith.h"
+#include "model/bounds.h"
 #include "model/game_state.h"
 #include "platform/dialog_values.h"
 
 namespace mf {
-namespace {
-
-int RowsInUse() {
-  if (Game.RegimeCount < 0) return 0;
-  return Game.RegimeCount > kStartRows ? kStartRows : static_cast<int>(Game.RegimeCount);
-}
-
-}  // namespace
 
 void StartGameDialog::Mirror() {
   fog = Game.FogOfWar == 1;
@@ -22,7 +15,7 @@ void StartGameDialog::Mirror() {
   pbem = Game.PBEM == 1;
   passwords = Game.UsePasswords == 1;
   aiBonus = Game.AIProdBonus == 1;
-  const int inUse = RowsInUse();
+  const int inUse = Held(Game.RegimeCount, kStartRows);
   for (int r = 1; r <= kStartRows; ++r) {
     StartGameRow& row = rows[r];
     row.shown = r <= inUse;
@@ -69,7 +62,7 @@ void StartGameDialog::SetAIBonus(bool on) {
 }
 
 bool StartGameDialog::SetHuman(int row, bool human, std::string* why) {
-  if (row < 1 || row > RowsInUse()) {
+  if (row < 1 || row > Held(Game.RegimeCount, kStartRows)) {
     *why = "there is no row for regime " + std::to_string(row);
     return false;
   }
@@ -84,7 +77,7 @@ bool StartGameDialog::SetHuman(int row, bool human, std::string* why) {
 }
 
 bool StartGameDialog::SetEmail(int row, const std::string& email, std::string* why) {
-  if (row < 1 || row > RowsInUse()) {
+  if (row < 1 || row > Held(Game.RegimeCount, kStartRows)) {
     *why = "there is no row for regime " + std::to_string(row);
     return false;
   }
@@ -100,7 +93,7 @@ bool StartGameDialog::StartButton(std::string* why) {
   }
   int humans = 0;
   bool addressMissing = false;
-  for (int r = 1; r <= RowsInUse(); ++r) {
+  for (int r = 1; r <= Held(Game.RegimeCount, kStartRows); ++r) {
     if (Regime[r].AI != 0) continue;
     ++humans;
     if (Trim(Regime[r].Email).empty()) addressMissing = true;

@@ -3,9 +3,11 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdint>
+#include <vector>
 
 #include "engine/supply_flood.h"
 #include "model/arith.h"
+#include "model/bounds.h"
 #include "model/game_state.h"
 #include "model/hex_geometry.h"
 #include "orders/flood.h"
@@ -13,8 +15,6 @@
 namespace mf {
 namespace {
 
-int MapW() { return std::clamp<int>(Game.MapW, 0, kMapCap); }
-int MapH() { return std::clamp<int>(Game.MapH, 0, kMapCap); }
 
 
 // Largest whole number not above a / b, for a positive b.
@@ -130,11 +130,11 @@ void RecoverShqDisruption(int shq, Long lastOfficer) {
 // THQ. The factors are whole percents and the disruption a fraction of
 // thirds or sixths, so the product is formed whole and divided once: a value
 // that lies exactly half way is then seen as such by the rounding.
-Long ServedPct(int u, int x, int y, float q) {
+Long ServedPct(int u, int x, int y, Long mark, float q) {
   const UnitRec& unit = Unit[u];
   const Long boss = unit.Boss;
   const bool withThq = unit.Theater == kLandTheater && U(boss).Thq > 0;
-  const std::int64_t f = DistancePct(Hex[x][y].Mark);
+  const std::int64_t f = DistancePct(mark);
   std::int64_t e = 0;
   std::int64_t parts = 1;
   if (withThq) {
@@ -157,38 +157,58 @@ Long ServedPct(int u, int x, int y, float q) {
   return Clamp32(CInt(static_cast<double>(q) * static_cast<double>(num) / static_cast<double>(den)));
 }
 
-// Steps 2 to 8 of one SHQ's turn, with the flood of step 1 in the planes.
-void ServeOne(int shq, int r) {
-  const int number = Unit[shq].Shq;
+// What the serving reads of the map, once for all SHQs: nothing on it moves
+// and no hex changes hands while the SHQs are served.
+struct Placed {
+  int x = 0, y = 0;
+  int u = 0;    // the unit, for a unit
+  int hex = 0;  // its place in a flood's result: (x - 1) * the map's height + (y - 1)
+};
+struct ServeMap {
+  std::vector<Placed> units;  // the regime's units on the map, in hex and slot order
+  std::vector<Placed> towns;  // the regime's towns, in hex order
+};
+
+void ReadServeMap(ServeMap& m, int r) {
+  m.units.clear();
+  m.towns.clear();
+  for (int x = 1; x <= MapW(); ++x) {
+    for (int y = 1; y <= MapH(); ++y) {
+      const HexRec& h = Hex[x][y];
+      const int hex = (x - 1) * MapH() + (y - 1);
+      for (int s = 1; s <= kStackSlots; ++s) {
+        const int u = h.Unit[s];
+        if (ValidUnit(u) && Unit[u].Regime == r) m.units.push_back(Placed{x, y, u, hex});
+      }
+      if (h.Owner == r && h.Pop > 0) m.towns.push_back(Placed{x, y, 0, hex});
+    }
+  }
+}
+
+// Steps 2 to 8 of one SHQ's turn, with the flood of step 1 in `flood`.
+void ServeOne(int shq, int r, const ServeMap& m, const std::vector<FloodHex>& flood) {
   const long range = EV(230);
 
   // 2. What its towns send it.
   std::int64_t g = 0;
   const bool bonus = Regime[r].AI == 1 && Game.AIProdBonus == 1;
-  for (int x = 1; x <= MapW(); ++x) {
-    for (int y = 1; y <= MapH(); ++y) {
-      const HexRec& h = Hex[x][y];
-      if (h.Mark > range || h.PathPortX == -1 || h.Owner != r || h.Pop <= 0 || h.ProdSHQ != shq) continue;
-      std::int64_t v = TownSupply(x, y);
-      if (bonus) v *= 2;
-      if (h.Prod == -1) v *= EV(237);
-      g += v;
-    }
+  for (const Placed& t : m.towns) {
+    const FloodHex& f = flood[t.hex];
+    const HexRec& h = Hex[t.x][t.y];
+    if (f.mark > range || f.pathPortX == -1 || h.ProdSHQ != shq) continue;
+    std::int64_t v = TownSupply(t.x, t.y);
+    if (bonus) v *= 2;
+    if (h.Prod == -1) v *= EV(237);
+    g += v;
   }
   Unit[shq].GenSupply = Clamp32(g);
 
   // 3. What its formations within reach ask for.
   std::int64_t d = 0;
-  for (int x = 1; x <= MapW(); ++x) {
-    for (int y = 1; y <= MapH(); ++y) {
-      if (Hex[x][y].Mark > range) continue;
-      for (int s = 1; s <= kStackSlots; ++s) {
-        const int u = Hex[x][y].Unit[s];
-        if (!ValidUnit(u) || Unit[u].Regime != r || !UnderShq(u, shq)) continue;
-        Unit[u].GenSupply = Demand(u);
-        d += Unit[u].GenSupply;
-      }
-    }
+  for (const Placed& p : m.units) {
+    if (flood[p.hex].mark > range || !UnderShq(p.u, shq)) continue;
+    Unit[p.u].GenSupply = Demand(p.u);
+    d += Unit[p.u].GenSupply;
   }
   Unit[shq].SupplyDemand = Clamp32(d);
 
@@ -202,22 +222,16 @@ void ServeOne(int shq, int r) {
 
   // 5. Serving.
   Long lastOfficer = 0;
-  for (int x = 1; x <= MapW(); ++x) {
-    for (int y = 1; y <= MapH(); ++y) {
-      if (Hex[x][y].Mark > range) continue;
-      for (int s = 1; s <= kStackSlots; ++s) {
-        const int u = Hex[x][y].Unit[s];
-        if (!ValidUnit(u) || Unit[u].Regime != r || !UnderShq(u, shq)) continue;
-        UnitRec& unit = Unit[u];
-        unit.SupplyPct = ServedPct(u, x, y, q);
-        // Over open shore only part of it gets through.
-        if (Hex[x][y].ShqPrev3[number] == -1)
-          unit.SupplyPct = Clamp32(FloorDiv(static_cast<std::int64_t>(EV(216)) * unit.SupplyPct, 100));
-        RecoverDisruption(u);
-        if (ValidUnit(unit.Cargo)) Unit[unit.Cargo].SupplyPct = unit.SupplyPct;
-        lastOfficer = unit.Officer;
-      }
-    }
+  for (const Placed& p : m.units) {
+    const FloodHex& f = flood[p.hex];
+    if (f.mark > range || !UnderShq(p.u, shq)) continue;
+    UnitRec& unit = Unit[p.u];
+    unit.SupplyPct = ServedPct(p.u, p.x, p.y, f.mark, q);
+    // Over open shore only part of it gets through.
+    if (f.pathPortX == -1) unit.SupplyPct = Clamp32(FloorDiv(static_cast<std::int64_t>(EV(216)) * unit.SupplyPct, 100));
+    RecoverDisruption(p.u);
+    if (ValidUnit(unit.Cargo)) Unit[unit.Cargo].SupplyPct = unit.SupplyPct;
+    lastOfficer = unit.Officer;
   }
 
   // 6. The stock: emptied when it could not meet the demand, otherwise it
@@ -237,56 +251,79 @@ void ServeOne(int shq, int r) {
 
   // 8. Ships under a THQ of this SHQ draw supply at sea wherever they are.
   const Long shipPct = Clamp32(CInt(static_cast<double>(q) * 100.0));
-  for (int x = 1; x <= MapW(); ++x) {
-    for (int y = 1; y <= MapH(); ++y) {
-      for (int s = 1; s <= kStackSlots; ++s) {
-        const int u = Hex[x][y].Unit[s];
-        if (!ValidUnit(u) || Unit[u].Regime != r || Unit[u].Theater != kSeaTheater || Unit[u].Shq > 0) continue;
-        if (Unit[u].Boss != 0 && U(Unit[u].Boss).Boss == shq) Unit[u].SupplyPct = shipPct;
-      }
-    }
+  for (const Placed& p : m.units) {
+    const UnitRec& unit = Unit[p.u];
+    if (unit.Theater != kSeaTheater || unit.Shq > 0) continue;
+    if (unit.Boss != 0 && U(unit.Boss).Boss == shq) Unit[p.u].SupplyPct = shipPct;
   }
 }
 
 }  // namespace
 
 void ServeSupply() {
-  const int r = ValidRegime(Game.CurRegime) ? static_cast<int>(Game.CurRegime) : 0;
-  for (int x = 1; x <= MapW(); ++x)
-    for (int y = 1; y <= MapH(); ++y)
-      for (int s = 0; s <= kShqCap; ++s) Hex[x][y].ShqDist[s] = 999;
-  if (r == 0) return;
+  const int r = CurrentRegime();
+  if (r == 0) {
+    for (int x = 1; x <= MapW(); ++x)
+      for (int y = 1; y <= MapH(); ++y)
+        for (int s = 0; s <= kShqCap; ++s) Hex[x][y].ShqDist[s] = 999;
+    return;
+  }
 
+  // The regime's own SHQs, in hex and slot order; an SHQ number outside
+  // 1..50 does not exist.
+  struct Origin {
+    int x, y, slot, shq;
+  };
+  std::vector<Origin> shqs;
   for (int x = 1; x <= MapW(); ++x) {
     for (int y = 1; y <= MapH(); ++y) {
       for (int slot = 1; slot <= kStackSlots; ++slot) {
         const int shq = Hex[x][y].Unit[slot];
         if (!ValidUnit(shq) || Unit[shq].Shq <= 0 || Hex[x][y].Owner != r) continue;
-        // Only the regime's own SHQs; an SHQ number outside 1..50 does not exist.
         if (Unit[shq].Regime != r || Unit[shq].Shq > kShqCap) continue;
-        const int number = Unit[shq].Shq;
-
-        // 1. Its reach, kept under its number for the rest of the turn.
-        UI.OrdX = x;
-        UI.OrdY = y;
-        UI.OrdSlot = slot;
-        ClearFlood();
-        SupplyFlood(true);
-        Unit[shq].MP = 0;
-        for (int hx = 1; hx <= MapW(); ++hx) {
-          for (int hy = 1; hy <= MapH(); ++hy) {
-            HexRec& h = Hex[hx][hy];
-            h.ShqDist[number] = h.Mark;
-            h.ShqPrev1[number] = h.PathSea;
-            h.ShqPrev2[number] = h.PathLand;
-            h.ShqPrev3[number] = h.PathPortX;
-            h.ShqPrev4[number] = h.PathPortY;
-          }
-        }
-        ServeOne(shq, r);
+        shqs.push_back(Origin{x, y, slot, shq});
       }
     }
   }
+
+  static ServeMap map;
+  ReadServeMap(map, r);
+  // Each SHQ's reach, kept under its number for the rest of the turn. The
+  // floods are kept here and written into the hex records together at the
+  // end, each hex once, rather than over the whole map after each flood.
+  static std::vector<std::vector<FloodHex>> floods;
+  if (floods.size() < shqs.size()) floods.resize(shqs.size());
+  BeginFloodRun();
+  for (std::size_t k = 0; k < shqs.size(); ++k) {
+    const Origin& o = shqs[k];
+    // 1. Its reach.
+    UI.OrdX = o.x;
+    UI.OrdY = o.y;
+    UI.OrdSlot = o.slot;
+    RunFlood(o.x, o.y, o.slot, true);
+    RunFloodResult(floods[k]);
+    Unit[o.shq].MP = 0;
+    ServeOne(o.shq, r, map, floods[k]);
+  }
+
+  for (int x = 1; x <= MapW(); ++x) {
+    for (int y = 1; y <= MapH(); ++y) {
+      HexRec& h = Hex[x][y];
+      for (int s = 0; s <= kShqCap; ++s) h.ShqDist[s] = 999;
+      const std::size_t hex = static_cast<std::size_t>((x - 1) * MapH() + (y - 1));
+      for (std::size_t k = 0; k < shqs.size(); ++k) {
+        const int number = Unit[shqs[k].shq].Shq;
+        const FloodHex& f = floods[k][hex];
+        h.ShqDist[number] = f.mark;
+        h.ShqPrev1[number] = f.pathSea;
+        h.ShqPrev2[number] = f.pathLand;
+        h.ShqPrev3[number] = f.pathPortX;
+        h.ShqPrev4[number] = f.pathPortY;
+      }
+    }
+  }
+  // The last flood leaves its waves and its box behind, as every flood does.
+  if (!shqs.empty()) WriteRunFlood();
   ClearFlood();
 }
 

@@ -1,10 +1,12 @@
 #include "engine/supply_flood.h"
 
 #include <algorithm>
+#include <bit>
 #include <cstdint>
 #include <vector>
 
 #include "model/arith.h"
+#include "model/bounds.h"
 #include "model/game_state.h"
 #include "model/hex_geometry.h"
 #include "orders/flood.h"
@@ -13,9 +15,6 @@ namespace mf {
 namespace {
 
 constexpr int kOut = 999;  // cost of a hex out of reach
-
-int MapW() { return std::clamp<int>(Game.MapW, 0, kMapCap); }
-int MapH() { return std::clamp<int>(Game.MapH, 0, kMapCap); }
 
 // Costs are whole numbers well inside 16 bits for any sane rule set; a rule
 // set with absurd costs is held at the edge of the field rather than wrapped.
@@ -48,30 +47,68 @@ void EditFlood() {
   }
 }
 
-// The flood reads and writes a few fields of many hexes many times, and the
-// hex records are large: it works on a compact copy of those fields for the
-// part of the map it can touch (its box and two hexes around it, as far as
-// a step and the look around a sea hex go), made once per flood, and writes
-// its results back into the hex records at the end.
-struct Cell {
-  Long wave = 0;
-  Long stepCost = 0;     // the cost of a step into it by its landscape
-  Short mark = 0;
-  Short pathSea = 0, pathLand = 0, pathPortX = 0, pathPortY = 0;
-  bool landCost = false; // whether the cost table knows its landscape (sea is costed apart)
-  bool sea = false;
-  bool urban = false;
-  bool belowSea = false; // grass, forest or urban (Land below the sea's number)
-  bool road = false;     // Hex.Road is 1
-  bool own = false;      // the hex is the flooding regime's
-  bool foreign = false;  // another regime's formation stands in stack slot 1
-  bool held = false;     // the flooding regime's formation stands in stack slot 1
+// What the flood knows of a hex's ground, as bits.
+enum Ground : std::uint16_t {
+  kOffMap = 1 << 0,    // beyond the edge of the map: never stepped into
+  kSeaHex = 1 << 1,
+  kUrbanHex = 1 << 2,
+  kBelowSea = 1 << 3,  // grass, forest or urban (Land below the sea's number)
+  kRoadHex = 1 << 4,   // Hex.Road is 1
+  kOwn = 1 << 5,       // the hex is the flooding regime's
+  kForeign = 1 << 6,   // another regime's formation stands in stack slot 1
+  kHeld = 1 << 7,      // the flooding regime's formation stands in stack slot 1
+  kLandCost = 1 << 8,  // the cost table knows its landscape (sea is costed apart)
+  kInBox = 1 << 9,     // inside the flood's box: hexes outside it are written but never walked
 };
+// The landscape (1 to 6 when the cost table knows it) sits in the bits from here.
+constexpr int kLandShift = 12;
 
-// A hex is kept as x * (kMapCap + 1) + y, so that the order of the numbers
-// is the order in which a walk over the map, column by column and top to
-// bottom, meets the hexes.
-constexpr int kColumn = kMapCap + 1;
+// The flood reads and writes a few fields of many hexes many times, and the
+// hex records are large: it works on a compact copy of those fields, its
+// ground read once (once per flood, or once for a run of floods over a map
+// on which nothing moves) and its planes kept beside it until the end.
+// A cell is kept to 16 bytes, so that four share a line of the processor's
+// cache: the waves run over the cells in no order the cache can foresee.
+struct alignas(16) Cell {
+  std::uint16_t ground = kOffMap;
+  Short mark = 0;
+  Short wave = 0;  // the reach is held to the hexes of the map, so a wave's number fits
+  Short pathLand = 0;
+  Short pathSea = 0, pathPortX = 0, pathPortY = 0;
+};
+static_assert(sizeof(Cell) == 16);
+static_assert(kMapCap * kMapCap + 1 <= 32767);
+
+bool IsSea(const Cell& h) { return (h.ground & kSeaHex) != 0; }
+bool IsUrban(const Cell& h) { return (h.ground & kUrbanHex) != 0; }
+
+// A flood from off the map: nothing is reached, and the box is empty.
+void NothingReached() {
+  for (int x = 1; x <= MapW(); ++x) {
+    for (int y = 1; y <= MapH(); ++y) {
+      HexRec& h = Hex[x][y];
+      h.PathSea = h.PathLand = h.PathPortX = h.PathPortY = 0;
+      h.Mark = kOut;
+      h.Wave = kOut;
+    }
+  }
+  FloodMinX = FloodMinY = FloodMaxX = FloodMaxY = 0;
+}
+
+// A hex is kept as x * kColumn + y, with a column of room on each side of the
+// map and a row above and below it, so that a step off the map lands on a
+// cell that says so, and the order of the numbers is the order in which a
+// walk over the map, column by column and top to bottom, meets the hexes.
+// The column length is even, so a cell's number is odd exactly when its row is.
+constexpr int kColumn = kMapCap + 2;
+static_assert(kColumn % 2 == 0);
+
+// The step to the neighbour in each direction, as a difference of cell
+// numbers, for an even row and for an odd row (odd rows lie half a hex east).
+constexpr int kStep[2][kHexSides + 1] = {
+    {0, -kColumn - 1, -1, kColumn, 1, -kColumn + 1, -kColumn},  // even row
+    {0, -1, kColumn - 1, kColumn, kColumn + 1, 1, -kColumn},    // odd row
+};
 
 struct FloodScratch {
   std::vector<Cell> cells = std::vector<Cell>(kColumn * kColumn);
@@ -83,7 +120,15 @@ struct FloodScratch {
   // it fall, and the step cost carried from one step to the next sees the
   // same steps in the same order.
   std::vector<int> walk;  // the wave being walked
-  std::vector<int> next;  // hexes given the next wave's number, as they came
+  // The hexes of the box given the next wave's number, one bit per cell:
+  // read in the order of the cell numbers, they are the next wave's walk.
+  std::vector<std::uint64_t> next = std::vector<std::uint64_t>((kColumn * kColumn + 63) / 64);
+  // The last flood: its box and what it could touch (the box, a step beyond
+  // it, and the hexes around a sea hex a step beyond it).
+  int minX = 0, minY = 0, maxX = 0, maxY = 0;
+  int loX = 0, loY = 0, hiX = 0, hiY = 0;
+  int reach = 0;
+  bool edit = false;  // the last flood was the editor's
 };
 
 FloodScratch& Scratch() {
@@ -91,24 +136,55 @@ FloodScratch& Scratch() {
   return scratch;
 }
 
-bool IsSea(const Cell& h) { return h.sea; }
+// The regime of the unit in stack slot 1 of a hex; 0 when the slot is empty.
+Long SlotOneRegime(const HexRec& h) {
+  const int u = h.Unit[1];
+  return ValidUnit(u) ? Unit[u].Regime : 0;
+}
+
+// Reads the ground of the hexes x0..x1, y0..y1 into the cells; those beyond
+// the map are marked so.
+void GatherGround(std::vector<Cell>& cells, int x0, int x1, int y0, int y1) {
+  const int w = MapW(), hgt = MapH();
+  for (int x = x0; x <= x1; ++x) {
+    for (int y = y0; y <= y1; ++y) {
+      Cell& c = cells[x * kColumn + y];
+      if (x < 1 || x > w || y < 1 || y > hgt) {
+        c.ground = kOffMap;
+        continue;
+      }
+      const HexRec& h = Hex[x][y];
+      std::uint16_t g = 0;
+      if (h.Land == kSea) g |= kSeaHex;
+      if (h.Land == kUrban) g |= kUrbanHex;
+      if (h.Land < kSea) g |= kBelowSea;
+      if (h.Land >= kGrass && h.Land <= kMountain && h.Land != kSea)
+        g |= static_cast<std::uint16_t>(kLandCost | (h.Land << kLandShift));
+      if (h.Road == 1) g |= kRoadHex;
+      if (h.Owner == Game.CurRegime) g |= kOwn;
+      const Long r = SlotOneRegime(h);
+      if (r != 0 && r != Game.CurRegime) g |= kForeign;
+      if (r == Game.CurRegime && h.Unit[1] != 0) g |= kHeld;
+      c.ground = g;
+    }
+  }
+}
 
 // Sea n is closed when an enemy ship lies on it or on a sea hex beside it,
 // unless an own ship holds n itself; supply leaves the land only from an own
 // port, and otherwise stays on the sea.
-bool SeaBlocked(const std::vector<Cell>& cells, int cx, int cy, int nx, int ny, bool seaAllowed) {
-  const Cell& n = cells[nx * kColumn + ny];
-  bool blocked = n.foreign;
+bool SeaBlocked(const std::vector<Cell>& cells, int cur, int cellN, bool seaAllowed) {
+  const Cell& n = cells[cellN];
+  bool blocked = (n.ground & kForeign) != 0;
+  const int* step = kStep[cellN & 1];
   for (int dir = 1; dir <= kHexSides && !blocked; ++dir) {
-    const HexXY m = Neighbour(nx, ny, dir);
-    if (m.x < 1 || m.y < 1) continue;
-    const Cell& side = cells[m.x * kColumn + m.y];
-    if (IsSea(side) && side.foreign) blocked = true;
+    const Cell& side = cells[cellN + step[dir]];
+    if ((side.ground & kOffMap) == 0 && IsSea(side) && (side.ground & kForeign) != 0) blocked = true;
   }
-  if (n.held) blocked = false;
-  const Cell& cur = cells[cx * kColumn + cy];
-  const bool ownPort = cur.urban && cur.own;
-  if (!seaAllowed || !(ownPort || IsSea(cur))) blocked = true;
+  if ((n.ground & kHeld) != 0) blocked = false;
+  const Cell& c = cells[cur];
+  const bool ownPort = IsUrban(c) && (c.ground & kOwn) != 0;
+  if (!seaAllowed || !(ownPort || IsSea(c))) blocked = true;
   return blocked;
 }
 
@@ -135,7 +211,7 @@ void CarryRoute(const Cell& cur, Cell& n, int nx, int ny) {
     }
   } else if (cur.pathPortX == 0) {
     // Ashore: in an urban hex the route has found a port, elsewhere open shore.
-    if (n.urban) {
+    if (IsUrban(n)) {
       n.pathPortX = static_cast<Short>(nx);
       n.pathPortY = static_cast<Short>(ny);
     } else {
@@ -149,7 +225,7 @@ void CarryRoute(const Cell& cur, Cell& n, int nx, int ny) {
 
 // Whether the step from cur to n with cost c replaces what n holds. The
 // rules are applied in their order; each may overturn the one before.
-bool AcceptStep(const Cell& cur, const Cell& n, long c) {
+bool AcceptStep(const Cell& cur, const Cell& n, long c, long shqRange) {
   const long mc = cur.mark, mn = n.mark;
   const long pc = cur.pathPortX, pn = n.pathPortX;
   const long sc = cur.pathSea, sn = n.pathSea;
@@ -166,7 +242,7 @@ bool AcceptStep(const Cell& cur, const Cell& n, long c) {
   // 5. A port replaces open shore.
   if (pn == -1 && pc > 0) a = true;
   // 6.
-  if (sc > 0 && sn == 0 && !curSea && !nSea && 16 * mc < 10 * mn && 2 * mn > EV(230)) a = true;
+  if (sc > 0 && sn == 0 && !curSea && !nSea && 16 * mc < 10 * mn && 2 * mn > shqRange) a = true;
   // 7.
   if (c < kOut && sn > 0) {
     if (pn > 0 && pc == 0 && mc < kOut) a = true;
@@ -179,36 +255,179 @@ bool AcceptStep(const Cell& cur, const Cell& n, long c) {
   return true;
 }
 
-// The regime of the unit in stack slot 1 of a hex; 0 when the slot is empty.
-Long SlotOneRegime(const HexRec& h) {
-  const int u = h.Unit[1];
-  return ValidUnit(u) ? Unit[u].Regime : 0;
+// A hex whose route has neither touched the sea nor landed, and that is not
+// sea itself: between two such hexes the rules of the sea all fall silent
+// and a step is taken exactly when it is cheaper.
+bool Overland(const Cell& h) { return (h.ground & kSeaHex) == 0 && h.pathSea == 0 && h.pathPortX == 0; }
+
+// Sets the box of the flood from (ox, oy) with this reach, reads the ground
+// of what it can touch unless a run has read the whole map already, and
+// clears the planes there.
+void StartFlood(FloodScratch& fs, int ox, int oy, int reach, bool readGround) {
+  fs.reach = reach;
+  fs.edit = false;
+  fs.minX = std::max(1, ox - (reach + 1));
+  fs.maxX = std::min(MapW(), ox + reach + 1);
+  fs.minY = std::max(1, oy - (reach + 1));
+  fs.maxY = std::min(MapH(), oy + reach + 1);
+  fs.loX = std::max(1, fs.minX - 2);
+  fs.hiX = std::min(MapW(), fs.maxX + 2);
+  fs.loY = std::max(1, fs.minY - 2);
+  fs.hiY = std::min(MapH(), fs.maxY + 2);
+  // With the edge of the map where the flood reaches it.
+  if (readGround) GatherGround(fs.cells, fs.loX - 1, fs.hiX + 1, fs.loY - 1, fs.hiY + 1);
+  for (int x = fs.loX; x <= fs.hiX; ++x) {
+    const bool columnInBox = x >= fs.minX && x <= fs.maxX;
+    for (int y = fs.loY; y <= fs.hiY; ++y) {
+      Cell& c = fs.cells[x * kColumn + y];
+      c.mark = kOut;
+      c.wave = kOut;
+      c.pathSea = c.pathLand = c.pathPortX = c.pathPortY = 0;
+      const bool inBox = columnInBox && y >= fs.minY && y <= fs.maxY;
+      c.ground = static_cast<std::uint16_t>((c.ground & ~kInBox) | (inBox ? kInBox : 0));
+    }
+  }
 }
 
-// The compact copy of hex (x, y) as a flood starts: what it reads of the
-// hex, and its planes cleared.
-Cell Gather(const HexRec& h) {
-  Cell c;
-  c.sea = h.Land == kSea;
-  c.urban = h.Land == kUrban;
-  c.belowSea = h.Land < kSea;
-  switch (h.Land) {
-    case kGrass: c.stepCost = EV(21); break;
-    case kForest: c.stepCost = EV(22); break;
-    case kUrban: c.stepCost = EV(23); break;
-    case kSwamp: c.stepCost = EV(25); break;
-    case kMountain: c.stepCost = EV(26); break;
-    default: break;
+// The waves of the flood from the origin cell, on cells already gathered
+// and started.
+void Spread(FloodScratch& fs, int origin, bool seaAllowed) {
+  std::vector<Cell>& cells = fs.cells;
+  const int reach = fs.reach;
+  const long ev24 = EV(24), ev27 = EV(27), shqRange = EV(230);
+  // The cost of a step by landscape.
+  const long cost[8] = {0, EV(21), EV(22), EV(23), 0, EV(25), EV(26), 0};
+  cells[origin].mark = 0;
+  cells[origin].wave = 1;
+  fs.walk.clear();
+  fs.walk.push_back(origin);
+  std::uint64_t* const next = fs.next.data();
+  // The bits the box's cells can have.
+  const int firstWord = (fs.minX * kColumn + fs.minY) / 64;
+  const int lastWord = (fs.maxX * kColumn + fs.maxY) / 64;
+
+  // The step cost lives for the whole flood: a landscape the cost table does
+  // not know keeps the cost of the step before.
+  long c = 0;
+  for (int w = 1; w <= reach; ++w) {
+    if (w == kOut) {
+      // The hexes the flood never reached still carry the out-of-reach wave
+      // number and a cost within a reach this long: this one wave walks them
+      // all, the whole box in its order.
+      fs.walk.clear();
+      for (int x = fs.minX; x <= fs.maxX; ++x)
+        for (int y = fs.minY; y <= fs.maxY; ++y) fs.walk.push_back(x * kColumn + y);
+    } else if (fs.walk.empty()) {
+      // Nothing left to walk: the flood is done, unless its reach takes it
+      // to that one wave.
+      if (reach < kOut || w > kOut) break;
+      w = kOut - 1;
+      continue;
+    }
+    const Short nextWave = static_cast<Short>(w + 1);
+    for (const int cell : fs.walk) {
+      Cell& cur = cells[cell];
+      if (cur.mark > reach || cur.wave != w) continue;
+      const int* step = kStep[cell & 1];
+      const bool curOverland = Overland(cur);
+      const long curMark = cur.mark;
+      const Short curLand = static_cast<Short>(cur.pathLand + 1);
+      const Short curPortY = cur.pathPortY;
+      // The grounds into which a road carries a step from here.
+      const std::uint16_t roadTo = static_cast<std::uint16_t>(((cur.ground & kRoadHex) ? (kRoadHex | kUrbanHex) : 0) |
+                                                              ((cur.ground & kUrbanHex) ? kRoadHex : 0));
+      for (int dir = 1; dir <= kHexSides; ++dir) {
+        const int cellN = cell + step[dir];
+        Cell& n = cells[cellN];
+        if (n.ground & kOffMap) continue;
+        if (curOverland && Overland(n)) {
+          // Overland: landscape, roads, and only the regime's own land; the
+          // step is taken when it is cheaper. Whether it is cheaper is a
+          // toss-up the processor cannot guess, so it is worked out without
+          // a jump and the hex is written either way.
+          c = (n.ground & kLandCost) ? cost[n.ground >> kLandShift] : c;
+          c = (n.ground & roadTo) ? ev27 : c;
+          c = (n.ground & kOwn) ? c : kOut;
+          const long m = curMark + c;
+          const bool take = m < n.mark;
+          n.mark = take ? ToMark(m) : n.mark;
+          n.wave = take ? nextWave : n.wave;
+          n.pathLand = take ? curLand : n.pathLand;
+          n.pathPortY = take ? curPortY : n.pathPortY;
+          next[cellN >> 6] |= static_cast<std::uint64_t>(take && (n.ground & kInBox)) << (cellN & 63);
+          continue;
+        }
+        // 1. Landscape.
+        if (n.ground & kLandCost) c = cost[n.ground >> kLandShift];
+        // 2. Roads, and a road running into a town or out of one.
+        if (n.ground & roadTo) c = ev27;
+        // 3. Taking to sea.
+        if (IsSea(n)) c = SeaBlocked(cells, cell, cellN, seaAllowed) ? kOut : ev24;
+        // 4. Coming ashore costs a sea step whatever the land.
+        if (IsSea(cur) && !IsSea(n)) c = ev24;
+        // 5. A route that has landed does not land again (swamp and mountain excepted).
+        if (IsSea(cur) && (n.ground & kBelowSea) && cur.pathPortX != 0) c = kOut;
+        // 6.
+        if (IsSea(cur) && !IsSea(n) && n.mark > 0 && n.pathPortX > 0) c = kOut;
+        // 7. Supply crosses only the regime's own land, and the sea.
+        if (!IsSea(n) && !(n.ground & kOwn)) c = kOut;
+
+        if (!AcceptStep(cur, n, c, shqRange)) continue;
+        n.mark = ToMark(cur.mark + c);
+        n.wave = nextWave;
+        CarryRoute(cur, n, cellN / kColumn, cellN % kColumn);
+        if (n.ground & kInBox) next[cellN >> 6] |= std::uint64_t{1} << (cellN & 63);
+      }
+    }
+    // The next wave's walk: the hexes it was given to, in the order of the walk.
+    fs.walk.clear();
+    for (int i = firstWord; i <= lastWord; ++i) {
+      for (std::uint64_t bits = next[i]; bits != 0; bits &= bits - 1)
+        fs.walk.push_back(i * 64 + std::countr_zero(bits));
+      next[i] = 0;
+    }
   }
-  c.landCost = h.Land == kGrass || h.Land == kForest || h.Land == kUrban || h.Land == kSwamp || h.Land == kMountain;
-  c.wave = kOut;
-  c.mark = kOut;
-  c.road = h.Road == 1;
-  c.own = h.Owner == Game.CurRegime;
-  const Long r = SlotOneRegime(h);
-  c.foreign = r != 0 && r != Game.CurRegime;
-  c.held = r == Game.CurRegime && h.Unit[1] != 0;
-  return c;
+
+  // Costs beyond the reach read as out of reach.
+  for (int x = fs.minX; x <= fs.maxX; ++x) {
+    for (int y = fs.minY; y <= fs.maxY; ++y) {
+      Cell& h = cells[x * kColumn + y];
+      if (h.mark > reach) h.mark = kOut;
+    }
+  }
+}
+
+// The unit a flood from (x, y, slot) starts from, 0 when there is none.
+int OriginUnit(int x, int y, int slot) {
+  const int u = (ValidHex(x, y) && slot >= 1 && slot <= kStackSlots) ? Hex[x][y].Unit[slot] : 0;
+  return ValidUnit(u) ? u : 0;
+}
+
+// The last flood into the hex records; every hex of the map outside what the
+// flood could touch is out of reach with no route.
+void WriteBack(const FloodScratch& fs) {
+  FloodMinX = fs.minX;
+  FloodMinY = fs.minY;
+  FloodMaxX = fs.maxX;
+  FloodMaxY = fs.maxY;
+  for (int x = 1; x <= MapW(); ++x) {
+    for (int y = 1; y <= MapH(); ++y) {
+      HexRec& h = Hex[x][y];
+      if (x < fs.loX || x > fs.hiX || y < fs.loY || y > fs.hiY) {
+        h.PathSea = h.PathLand = h.PathPortX = h.PathPortY = 0;
+        h.Mark = kOut;
+        h.Wave = kOut;
+        continue;
+      }
+      const Cell& f = fs.cells[x * kColumn + y];
+      h.Mark = f.mark;
+      h.Wave = f.wave;
+      h.PathSea = f.pathSea;
+      h.PathLand = f.pathLand;
+      h.PathPortX = f.pathPortX;
+      h.PathPortY = f.pathPortY;
+    }
+  }
 }
 
 }  // namespace
@@ -229,9 +448,7 @@ long TownSupply(int x, int y) {
 
 void SupplyFlood(bool seaAllowed) {
   const int ox = UI.OrdX, oy = UI.OrdY;
-  const int slot = UI.OrdSlot;
-  const int u = (ValidHex(ox, oy) && slot >= 1 && slot <= kStackSlots) ? Hex[ox][oy].Unit[slot] : 0;
-  const int reach = FloodReach(ValidUnit(u) ? u : 0);
+  FloodScratch& fs = Scratch();
 
   if (UI.EditMode == 1) {
     EditFlood();
@@ -240,124 +457,68 @@ void SupplyFlood(bool seaAllowed) {
 
   // No origin on the map: nothing is reached.
   if (!ValidHex(ox, oy)) {
-    for (int x = 1; x <= MapW(); ++x) {
-      for (int y = 1; y <= MapH(); ++y) {
-        HexRec& h = Hex[x][y];
-        h.PathSea = h.PathLand = h.PathPortX = h.PathPortY = 0;
-        h.Mark = kOut;
-        h.Wave = kOut;
-      }
-    }
-    FloodMinX = FloodMinY = FloodMaxX = FloodMaxY = 0;
+    NothingReached();
     return;
   }
-  const int minX = std::max(1, ox - (reach + 1)), maxX = std::min(MapW(), ox + reach + 1);
-  const int minY = std::max(1, oy - (reach + 1)), maxY = std::min(MapH(), oy + reach + 1);
-  // What the flood can touch: the box, a step beyond it, and the hexes
-  // around a sea hex a step beyond it.
-  const int loX = std::max(1, minX - 2), hiX = std::min(MapW(), maxX + 2);
-  const int loY = std::max(1, minY - 2), hiY = std::min(MapH(), maxY + 2);
+  StartFlood(fs, ox, oy, FloodReach(OriginUnit(ox, oy, UI.OrdSlot)), true);
+  Spread(fs, ox * kColumn + oy, seaAllowed);
+  WriteBack(fs);
+}
 
+void BeginFloodRun() {
   FloodScratch& fs = Scratch();
-  std::vector<Cell>& cells = fs.cells;
-  for (int x = loX; x <= hiX; ++x)
-    for (int y = loY; y <= hiY; ++y) cells[x * kColumn + y] = Gather(Hex[x][y]);
-  const int origin = ox * kColumn + oy;
-  cells[origin].mark = 0;
-  cells[origin].wave = 1;
-  fs.walk.clear();
-  fs.next.clear();
-  fs.walk.push_back(origin);
+  GatherGround(fs.cells, 0, MapW() + 1, 0, MapH() + 1);
+  fs.edit = false;
+  fs.minX = fs.minY = fs.maxX = fs.maxY = 0;
+  fs.loX = fs.loY = 1;
+  fs.hiX = fs.hiY = 0;
+}
 
-  // The step cost lives for the whole flood: a landscape the cost table does
-  // not know keeps the cost of the step before.
-  long c = 0;
-  for (int w = 1; w <= reach; ++w) {
-    if (w == kOut) {
-      // The hexes the flood never reached still carry the out-of-reach wave
-      // number and a cost within a reach this long: this one wave walks them
-      // all, the whole box in its order.
-      fs.walk.clear();
-      for (int x = minX; x <= maxX; ++x)
-        for (int y = minY; y <= maxY; ++y) fs.walk.push_back(x * kColumn + y);
-    } else if (fs.walk.empty()) {
-      // Nothing left to walk: the flood is done, unless its reach takes it
-      // to that one wave.
-      if (reach < kOut || w > kOut) break;
-      w = kOut - 1;
-      continue;
-    }
-    for (const int cell : fs.walk) {
-      const int x = cell / kColumn, y = cell % kColumn;
-      Cell& cur = cells[cell];
-      if (cur.mark > reach || cur.wave != w) continue;
-      for (int dir = 1; dir <= kHexSides; ++dir) {
-        const HexXY nn = Neighbour(x, y, dir);
-        if (nn.x < 1 || nn.y < 1) continue;
-        const int cellN = nn.x * kColumn + nn.y;
-        Cell& n = cells[cellN];
-        // 1. Landscape.
-        if (n.landCost) c = n.stepCost;
-        // 2. Roads, and a road running into a town or out of one.
-        if ((cur.road && n.road) || (cur.road && n.urban) || (cur.urban && n.road)) c = EV(27);
-        // 3. Taking to sea.
-        if (IsSea(n)) c = SeaBlocked(cells, x, y, nn.x, nn.y, seaAllowed) ? kOut : EV(24);
-        // 4. Coming ashore costs a sea step whatever the land.
-        if (IsSea(cur) && !IsSea(n)) c = EV(24);
-        // 5. A route that has landed does not land again (swamp and mountain excepted).
-        if (IsSea(cur) && n.belowSea && cur.pathPortX != 0) c = kOut;
-        // 6.
-        if (IsSea(cur) && !IsSea(n) && n.mark > 0 && n.pathPortX > 0) c = kOut;
-        // 7. Supply crosses only the regime's own land, and the sea.
-        if (!IsSea(n) && !n.own) c = kOut;
-
-        if (!AcceptStep(cur, n, c)) continue;
-        n.mark = ToMark(cur.mark + c);
-        const bool queued = n.wave == w + 1;
-        n.wave = w + 1;
-        CarryRoute(cur, n, nn.x, nn.y);
-        // Hexes outside the box are written but never walked.
-        if (queued || nn.x < minX || nn.x > maxX || nn.y < minY || nn.y > maxY) continue;
-        fs.next.push_back(cellN);
-      }
-    }
-    std::sort(fs.next.begin(), fs.next.end());
-    std::swap(fs.walk, fs.next);
-    fs.next.clear();
+void RunFlood(int x, int y, int slot, bool seaAllowed) {
+  FloodScratch& fs = Scratch();
+  fs.edit = UI.EditMode == 1;
+  if (fs.edit || !ValidHex(x, y)) {
+    // The editor's flood reaches everything at no cost; from off the map
+    // nothing is reached. Neither walks.
+    fs.minX = fs.minY = fs.maxX = fs.maxY = 0;
+    fs.loX = fs.loY = 1;
+    fs.hiX = fs.hiY = 0;
+    return;
   }
+  StartFlood(fs, x, y, FloodReach(OriginUnit(x, y, slot)), false);
+  Spread(fs, x * kColumn + y, seaAllowed);
+}
 
-  // Costs beyond the reach read as out of reach.
-  for (int x = minX; x <= maxX; ++x) {
-    for (int y = minY; y <= maxY; ++y) {
-      Cell& h = cells[x * kColumn + y];
-      if (h.mark > reach) h.mark = kOut;
-    }
-  }
-  FloodMinX = minX;
-  FloodMinY = minY;
-  FloodMaxX = maxX;
-  FloodMaxY = maxY;
-
-  // The results into the hex records; every hex of the map outside what the
-  // flood could touch is out of reach with no route.
-  for (int x = 1; x <= MapW(); ++x) {
-    for (int y = 1; y <= MapH(); ++y) {
-      HexRec& h = Hex[x][y];
-      if (x < loX || x > hiX || y < loY || y > hiY) {
-        h.PathSea = h.PathLand = h.PathPortX = h.PathPortY = 0;
-        h.Mark = kOut;
-        h.Wave = kOut;
+void RunFloodResult(std::vector<FloodHex>& out) {
+  const FloodScratch& fs = Scratch();
+  const int w = MapW(), h = MapH();
+  out.resize(static_cast<std::size_t>(w) * static_cast<std::size_t>(h));
+  const FloodHex none = fs.edit ? FloodHex{0, 0, 0, 0, 0} : FloodHex{};
+  std::size_t i = 0;
+  for (int x = 1; x <= w; ++x) {
+    const bool columnTouched = x >= fs.loX && x <= fs.hiX;
+    for (int y = 1; y <= h; ++y, ++i) {
+      if (!columnTouched || y < fs.loY || y > fs.hiY) {
+        out[i] = none;
         continue;
       }
-      const Cell& f = cells[x * kColumn + y];
-      h.Mark = f.mark;
-      h.Wave = f.wave;
-      h.PathSea = f.pathSea;
-      h.PathLand = f.pathLand;
-      h.PathPortX = f.pathPortX;
-      h.PathPortY = f.pathPortY;
+      const Cell& c = fs.cells[x * kColumn + y];
+      out[i] = FloodHex{c.mark, c.pathSea, c.pathLand, c.pathPortX, c.pathPortY};
     }
   }
+}
+
+void WriteRunFlood() {
+  const FloodScratch& fs = Scratch();
+  if (fs.edit) {
+    EditFlood();
+    return;
+  }
+  if (fs.minX == 0) {
+    NothingReached();
+    return;
+  }
+  WriteBack(fs);
 }
 
 }  // namespace mf

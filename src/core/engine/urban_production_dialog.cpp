@@ -6,13 +6,12 @@
 #include "engine/research.h"
 #include "engine/type_info_dialog.h"
 #include "model/arith.h"
+#include "model/bounds.h"
 #include "model/game_state.h"
 #include "model/hex_geometry.h"
 
 namespace mf {
 namespace {
-
-int Cur() { return ValidRegime(Game.CurRegime) ? static_cast<int>(Game.CurRegime) : 0; }
 
 // In the editor no regime is moving: the lists and the delivery are those
 // of the town's owner while they are worked out.
@@ -45,7 +44,7 @@ bool BesideSea(int x, int y) {
 // ship needs the sea next door, and it has a price.
 bool CanMake(int t, int x, int y) {
   const TypeRec& type = Type[t];
-  const int r = Cur();
+  const int r = CurrentRegime();
   if (!TypeResearchKnown(r, t)) return false;
   const Long people = Hex[x][y].People;
   if (people < 0 || people > kPeopleCap || type.Living[people] != 1) return false;
@@ -102,13 +101,13 @@ void UrbanProductionDialog::Prepare(int x, int y) {
   ShowShq();
   {
     OwnerAsCurrent owner(h.Owner);
-    const int types = std::clamp<int>(Game.TypeCount, 0, kTypeCap);
+    const int types = LastType();
     for (int t = 1; t <= types; ++t) {
       if (!CanMake(t, x, y)) continue;
       typeRows.push_back(TypeRow(t));
       typeOfRow.push_back(t);
     }
-    const int r = Cur();
+    const int r = CurrentRegime();
     for (int s = 1; s <= kShqCap; ++s) {
       const Long u = Shq[r][s].Unit;
       if (u == 0) continue;
@@ -187,7 +186,7 @@ bool UrbanProductionDialog::ChangeDelivery(std::string* why) {
   HexRec& h = Hex[hexX][hexY];
   {
     OwnerAsCurrent owner(h.Owner);
-    h.ProdSHQ = Shq[Cur()][shqNumberOfRow[shqRow]].Unit;
+    h.ProdSHQ = Shq[CurrentRegime()][shqNumberOfRow[shqRow]].Unit;
   }
   ShowShq();
   return true;
@@ -224,7 +223,7 @@ bool UrbanProductionDialog::Close(std::string* why) {
   // goes to the first entry of the SHQ table, even when that entry is free
   // and so leaves it at 0.
   HexRec& h = Hex[hexX][hexY];
-  if (!shqRows.empty() && h.ProdSHQ == 0) h.ProdSHQ = Shq[Cur()][1].Unit;
+  if (!shqRows.empty() && h.ProdSHQ == 0) h.ProdSHQ = Shq[CurrentRegime()][1].Unit;
   open = false;
   return true;
 }

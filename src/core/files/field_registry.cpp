@@ -20,6 +20,7 @@
 #include "files/scenario_schema.h"
 #include "model/arith.h"
 #include "model/game_state.h"
+#include "platform/text_case.h"
 
 namespace mf {
 namespace {
@@ -450,12 +451,6 @@ bool Resolve(const std::string& name, bool forWrite, const FieldDef** field, Idx
   *field = f;
   if (record != nullptr) *record = rec;
   return true;
-}
-
-std::string Lower(std::string s) {
-  for (char& c : s)
-    if (c >= 'A' && c <= 'Z') c = static_cast<char>(c - 'A' + 'a');
-  return s;
 }
 
 // Whether a value text is a number and nothing else: blanks, a sign, digits,

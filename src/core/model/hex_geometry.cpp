@@ -3,6 +3,7 @@
 #include <cstdlib>
 
 #include "model/arith.h"
+#include "model/bounds.h"
 #include "model/game_state.h"
 
 namespace mf {
@@ -50,8 +51,8 @@ HexXY Neighbour(int x, int y, int direction) {
   int ny = y + kStepY[direction];
   // Each coordinate is tested by itself, so (0, 5) can come out. A map size
   // beyond the table (bad data) is held to the table.
-  const int w = Game.MapW < kMapCap ? Game.MapW : kMapCap;
-  const int h = Game.MapH < kMapCap ? Game.MapH : kMapCap;
+  const int w = MapW();
+  const int h = MapH();
   if (nx < 1 || nx > w) nx = 0;
   if (ny < 1 || ny > h) ny = 0;
   return {nx, ny};

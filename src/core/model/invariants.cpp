@@ -2,6 +2,7 @@
 
 #include <vector>
 
+#include "model/bounds.h"
 #include "model/game_state.h"
 
 namespace mf {
@@ -30,8 +31,8 @@ std::string CheckInvariants() {
   };
   std::vector<Place> seen(kUnitCap + 1);
 
-  const int w = Game.MapW < kMapCap ? Game.MapW : kMapCap;
-  const int h = Game.MapH < kMapCap ? Game.MapH : kMapCap;
+  const int w = MapW();
+  const int h = MapH();
   for (int x = 1; x <= w; ++x) {
     for (int y = 1; y <= h; ++y) {
       const HexRec& hex = Hex[x][y];

@@ -1,6 +1,7 @@
 #include "model/reset.h"
 
 #include "model/arith.h"
+#include "model/bounds.h"
 #include "model/engine_vars.h"
 #include "model/game_state.h"
 #include "model/hex_geometry.h"
@@ -15,13 +16,6 @@ int MapSizeFromText(const std::string& text) {
   if (n < kMapMin) return kMapMin;
   if (n > kMapCap) return kMapCap;
   return static_cast<int>(n);
-}
-
-// A count of the tables held to what the table can hold, for loops over it.
-int Held(long count, int cap) {
-  if (count < 0) return 0;
-  if (count > cap) return cap;
-  return static_cast<int>(count);
 }
 
 }  // namespace
@@ -94,8 +88,8 @@ void MakeItSo(bool resetRules, const std::string& widthText, const std::string& 
   Game.BookVarCount = kBookVarCount;
 
   // 4. The hexes of the map as it was; hexes beyond it keep what they hold.
-  const int oldW = Held(Game.MapW, kMapCap);
-  const int oldH = Held(Game.MapH, kMapCap);
+  const int oldW = MapW();
+  const int oldH = MapH();
   for (int x = 1; x <= oldW; ++x) {
     for (int y = 1; y <= oldH; ++y) {
       Hex[x][y] = HexRec{};

@@ -1,5 +1,6 @@
 #include "orders/flood.h"
 
+#include "model/bounds.h"
 #include "model/game_state.h"
 
 namespace mf {
@@ -7,8 +8,8 @@ namespace mf {
 int FloodMinX = 0, FloodMinY = 0, FloodMaxX = 0, FloodMaxY = 0;
 
 void ClearFlood() {
-  const int w = Game.MapW < kMapCap ? Game.MapW : kMapCap;
-  const int h = Game.MapH < kMapCap ? Game.MapH : kMapCap;
+  const int w = MapW();
+  const int h = MapH();
   for (int x = 1; x <= w; ++x) {
     for (int y = 1; y <= h; ++y) {
       HexRec& hex = Hex[x][y];

@@ -3,6 +3,7 @@
 #include "engine/diplomacy.h"
 
 #include "model/arith.h"
+#include "model/bounds.h"
 #include "model/game_state.h"
 #include "model/hex_geometry.h"
 #include "orders/flood.h"
@@ -16,19 +17,16 @@ constexpr int kOutOfReach = 999;
 constexpr int kShownShore = 9999;  // next to a ship's reach: shown, never entered
 constexpr int kMaxWaves = kRouteSteps;  // 15: also the length of Hex.Route
 
-int MapW() { return Game.MapW < 0 ? 0 : (Game.MapW > kMapCap ? kMapCap : static_cast<int>(Game.MapW)); }
-int MapH() { return Game.MapH < 0 ? 0 : (Game.MapH > kMapCap ? kMapCap : static_cast<int>(Game.MapH)); }
 bool OnMap(HexXY n) { return n.x > 0 && n.y > 0; }
 
 // A type attribute, 0 for a type number that names no type.
 long Attr(long type, int attr) { return ValidType(static_cast<int>(type)) ? Type[type].Attr[attr] : 0; }
 
-int Cur() { return ValidRegime(static_cast<int>(Game.CurRegime)) ? static_cast<int>(Game.CurRegime) : 0; }
-bool HumanRegime() { return Regime[Cur()].AI <= 0; }
+bool HumanRegime() { return Regime[CurrentRegime()].AI <= 0; }
 // True when regime `other` is at peace with the current regime.
 // Land of a regime the mover is at peace with is closed to it; its own never is.
 bool PeaceLand(long owner) {
-  return owner != Game.CurRegime && AtPeace(Cur(), static_cast<int>(owner));
+  return owner != Game.CurRegime && AtPeace(CurrentRegime(), static_cast<int>(owner));
 }
 bool Full(const HexRec& h) { return h.Unit[kStackSlots] != 0; }
 
@@ -124,7 +122,7 @@ void Filters(int theater, int x1, int y1, int x2, int y2) {
         if (AirfieldRefused(x, y)) Hex[x][y].Mark = kOutOfReach;
   }
   if (airlift) {
-    const int r = Cur();
+    const int r = CurrentRegime();
     for (int x = x1; x <= x2; ++x) {
       for (int y = y1; y <= y2; ++y) {
         HexRec& h = Hex[x][y];
@@ -380,7 +378,7 @@ int MoveUnit(bool /*silent*/) {
 void HexCapture() {
   const int w = MapW();
   const int hgt = MapH();
-  const int r = Cur();
+  const int r = CurrentRegime();
   for (int x = 1; x <= w; ++x)
     for (int y = 1; y <= hgt; ++y) Hex[x][y].Mark = 0;
   if (r == 0) return;

@@ -2,6 +2,7 @@
 
 #include "engine/officers.h"
 #include "model/arith.h"
+#include "model/bounds.h"
 #include "model/counter_pic.h"
 #include "model/game_state.h"
 #include "model/hex_geometry.h"
@@ -12,7 +13,6 @@ namespace mf {
 namespace {
 
 bool Editing() { return UI.EditMode == 1; }
-int Cur() { return ValidRegime(static_cast<int>(Game.CurRegime)) ? static_cast<int>(Game.CurRegime) : 0; }
 bool PlaceOnMap() { return ValidHex(static_cast<int>(UI.SelX), static_cast<int>(UI.SelY)); }
 
 // Price in political points of each kind of unit.
@@ -81,7 +81,7 @@ std::string Ordinal(long n) {
 }
 
 int NewFormation(int theater) {
-  const int r = Cur();
+  const int r = CurrentRegime();
   if (r == 0 || !PlaceOnMap()) return 0;
   const int u = NewUnitNumber();
   if (u == 0) return 0;
@@ -99,7 +99,7 @@ int NewFormation(int theater) {
 }
 
 int NewThq(bool askName) {
-  const int r = Cur();
+  const int r = CurrentRegime();
   if (r == 0 || !PlaceOnMap()) return 0;
   const int u = NewUnitNumber();
   if (u == 0) return 0;
@@ -118,7 +118,7 @@ int NewThq(bool askName) {
 }
 
 int NewShq(bool askName) {
-  const int r = Cur();
+  const int r = CurrentRegime();
   if (r == 0 || !PlaceOnMap()) return 0;
   const int u = NewUnitNumber();
   if (u == 0) return 0;
@@ -172,7 +172,7 @@ void DropShq(int unit) {
 
 void NewUnitDialog::Prepare() {
   static const char* const kWords[kKinds] = {"Land Formation = ", "Navy Fleet = ", "Air Wing = ", "THQ = ", "SHQ = "};
-  const int r = Cur();
+  const int r = CurrentRegime();
   const bool place = PlaceOnMap();
   const HexRec& h = place ? Hex[UI.SelX][UI.SelY] : Hex[0][0];
   bool sea = false;

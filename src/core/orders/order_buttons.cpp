@@ -3,6 +3,7 @@
 #include <string>
 
 #include "model/arith.h"
+#include "model/bounds.h"
 #include "model/game_state.h"
 #include "model/stack.h"
 
@@ -34,9 +35,8 @@ const OrderButtonInfo kButtons[kOrderButtonCount] = {
 
 const char* const kCancelCaption = "CANCEL ORDER";
 
-int Cur() { return ValidRegime(static_cast<int>(Game.CurRegime)) ? static_cast<int>(Game.CurRegime) : 0; }
 bool Editing() { return UI.EditMode == 1; }
-bool ComputerTurn() { return Cur() != 0 && Regime[Cur()].AI > 0; }
+bool ComputerTurn() { return CurrentRegime() != 0 && Regime[CurrentRegime()].AI > 0; }
 
 // The formation in a stack slot of a hex, 0 for none or bad data.
 int UnitAt(long x, long y, long slot) {
@@ -142,7 +142,7 @@ void RefreshButtons() {
     return;
   }
   Buttons.nextTurn.caption = "Next turn";
-  if (Game.Turn <= 0 || Cur() == 0 || !SelectionOnMap()) return;
+  if (Game.Turn <= 0 || CurrentRegime() == 0 || !SelectionOnMap()) return;
 
   const HexRec& h = SelectedHex();
   const long o_ = SelectionOwner();
@@ -154,7 +154,7 @@ void RefreshButtons() {
   Buttons.order[kBtnMove].enabled = ownSel && slot;
   Buttons.order[kBtnAttack].enabled =
       !ownSel && UI.Order.SelOrderMove == 0 && slot &&
-      (o_ == 0 || (ValidRegime(static_cast<int>(o_)) && Dip[Cur()][o_].Relation == 0));
+      (o_ == 0 || (ValidRegime(static_cast<int>(o_)) && Dip[CurrentRegime()][o_].Relation == 0));
   Buttons.order[kBtnProduction].enabled = ownSel && h.Pop > 0;
   Buttons.order[kBtnCommand].enabled = ownSel && slot;
   Buttons.order[kBtnNewUnit].enabled = ownSel && h.Unit[kStackSlots] == 0;
@@ -206,9 +206,9 @@ void Helper() {
   } else if (Editing()) {
     line = "You are in the editing mode. If you want to play this scenario select start in the menu.";
   } else if (ComputerTurn()) {
-    line = "The AI for " + Regime[Cur()].Name + " is doing it's turn.";
+    line = "The AI for " + Regime[CurrentRegime()].Name + " is doing it's turn.";
   } else {
-    line = Regime[Cur()].Name + ", please give your orders. Press Next Turn Button if you are finished.";
+    line = Regime[CurrentRegime()].Name + ", please give your orders. Press Next Turn Button if you are finished.";
   }
   UI.HelpText = line;
   Buttons.cancel.caption = kCancelCaption;

@@ -1,5 +1,6 @@
 #include "orders/sight.h"
 
+#include "model/bounds.h"
 #include "model/game_state.h"
 #include "model/hex_geometry.h"
 
@@ -18,9 +19,6 @@ struct SightCell {
   int ring[kFields];
 };
 SightCell g_cells[kMapCap + 1][kMapCap + 1];
-
-int MapW() { return Game.MapW < 0 ? 0 : (Game.MapW > kMapCap ? kMapCap : static_cast<int>(Game.MapW)); }
-int MapH() { return Game.MapH < 0 ? 0 : (Game.MapH > kMapCap ? kMapCap : static_cast<int>(Game.MapH)); }
 
 int FieldOfTheater(long theater) {
   if (theater == kSeaTheater) return kSeaSight;

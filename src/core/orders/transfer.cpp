@@ -6,6 +6,7 @@
 
 #include "engine/supply_flood.h"
 #include "model/arith.h"
+#include "model/bounds.h"
 #include "model/counter_pic.h"
 #include "model/game_state.h"
 #include "model/stack.h"
@@ -26,8 +27,6 @@ int UnitAt(long x, long y, long slot) {
 
 const TypeRec& TypeOf(long t) { return ValidType(static_cast<int>(t)) ? Type[t] : Type[0]; }
 long Attr(long t, int attr) { return TypeOf(t).Attr[attr]; }
-
-int StockWidth() { return std::clamp<int>(static_cast<int>(EV(616)), 0, kStockCap); }
 
 // The pool of an SHQ unit; nullptr for anything else.
 ShqRec* PoolPtr(int u) {

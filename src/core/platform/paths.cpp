@@ -1,10 +1,11 @@
 #include "platform/paths.h"
 
 #include <algorithm>
-#include <cctype>
 #include <cstdlib>
 #include <filesystem>
 #include <system_error>
+
+#include "platform/text_case.h"
 
 namespace fs = std::filesystem;
 
@@ -15,10 +16,6 @@ std::string& Dir() {
   return dir;
 }
 
-std::string Lower(std::string s) {
-  std::transform(s.begin(), s.end(), s.begin(), [](unsigned char c) { return std::tolower(c); });
-  return s;
-}
 }  // namespace
 
 void SetProgramDir(const std::string& dir) { Dir() = dir.empty() ? "." : dir; }
@@ -92,7 +89,5 @@ std::string Made(const fs::path& dir) {
 }  // namespace
 
 std::string UserGameDir() { return Made(XdgDir("XDG_DATA_HOME", ".local/share") / "marrowfield"); }
-
-std::string UserSettingsDir() { return Made(XdgDir("XDG_CONFIG_HOME", ".config") / "marrowfield"); }
 
 }  // namespace mf

@@ -27,7 +27,5 @@ std::string FindProgramDir(const std::string& exeDir);
 // $XDG_DATA_HOME/marrowfield (~/.local/share/marrowfield), made when first
 // asked for. The game never needs to write into its install folder.
 std::string UserGameDir();
-// The player's settings folder: $XDG_CONFIG_HOME/marrowfield (~/.config/marrowfield).
-std::string UserSettingsDir();
 
 }  // namespace mf

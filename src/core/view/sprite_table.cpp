@@ -1,7 +1,5 @@
 #include "view/sprite_table.h"
 
-#include <algorithm>
-#include <cctype>
 #include <filesystem>
 #include <map>
 #include <set>
@@ -10,6 +8,7 @@
 #include "model/capacity.h"
 #include "model/game_state.h"
 #include "platform/paths.h"
+#include "platform/text_case.h"
 
 namespace fs = std::filesystem;
 
@@ -157,11 +156,6 @@ Tables& T() {
     return t;
   }();
   return *tables;
-}
-
-std::string Lower(std::string s) {
-  std::transform(s.begin(), s.end(), s.begin(), [](unsigned char c) { return std::tolower(c); });
-  return s;
 }
 
 // The files of one folder, read once per load: exact names first, then the

@@ -7,14 +7,12 @@
 #include "engine/supply_flood.h"
 #include "engine/type_info_dialog.h"
 #include "model/arith.h"
+#include "model/bounds.h"
 #include "model/game_state.h"
 
 namespace mf {
 namespace {
 
-int MapW() { return std::clamp<int>(Game.MapW, 0, kMapCap); }
-int MapH() { return std::clamp<int>(Game.MapH, 0, kMapCap); }
-int Units() { return std::clamp<int>(Game.UnitCount, 0, kUnitCap); }
 const std::string& TypeName(Long t) { return Type[ValidType(t) ? t : 0].Name; }
 
 // The unit of SHQ number s of regime r, 0 when that number is free or its
@@ -64,7 +62,7 @@ std::string TownOutputText(int r, const HexRec& h, int x, int y) {
 }  // namespace
 
 int StatusRegime() {
-  if (Game.Turn > 0 && UI.EditMode != 1) return ValidRegime(Game.CurRegime) ? static_cast<int>(Game.CurRegime) : 0;
+  if (Game.Turn > 0 && UI.EditMode != 1) return CurrentRegime();
   if (!ValidHex(UI.SelX, UI.SelY)) return 0;
   const Long owner = Hex[UI.SelX][UI.SelY].Owner;
   return ValidRegime(owner) ? static_cast<int>(owner) : 0;
@@ -104,7 +102,7 @@ std::vector<std::string> dostatusOOB() {
   out.push_back("YOUR ORDER OF BATTLE: (OOB)");
   const int r = StatusRegime();
   if (r == 0) return out;
-  const int n = Units();
+  const int n = LastUnit();
   std::vector<bool> listed(static_cast<std::size_t>(n) + 1, false);
   auto mine = [r](int u) { return Unit[u].Regime == r && Unit[u].Shq == 0; };
   // A THQ with the formations under it.
