@@ -4,6 +4,7 @@
 #include <QAction>
 #include <QApplication>
 #include <QMouseEvent>
+#include <QWheelEvent>
 #include <QScrollBar>
 #include <QSet>
 #include <QImage>
@@ -231,6 +232,44 @@ TEST_F(WindowTest, TheMinimapMovesTheMapWindow) {
   const QPoint c = window->mapWidget()->HexCentreOnView(70, 40);
   EXPECT_GT(c.x(), 0);
   EXPECT_LT(c.x(), window->mapWidget()->view()->width());
+}
+
+// A wheel notch moves the view without drawing the minimap's picture of the
+// whole map again; the minimap still shows the game, the moved view and any
+// change the game asked to be drawn together with the scroll.
+TEST_F(WindowTest, AScrollKeepsTheMinimapTheGames) {
+  world::NewMap(80, 80);
+  const std::string path = TempPath("scroll.mf1");
+  ASSERT_TRUE(WriteFile(path));
+  ASSERT_TRUE(window->OpenFile(QString::fromStdString(path)));
+  window->SyncWithGame();
+  Settle();
+  Minimap* mini = window->minimap();
+  QWidget* view = window->mapWidget()->view();
+  auto wheelDown = [&] {
+    const QPointF at(view->width() / 2.0, view->height() / 2.0);
+    QWheelEvent e(at, view->mapToGlobal(at), QPoint(), QPoint(0, -120), Qt::NoButton, Qt::NoModifier,
+                  Qt::NoScrollPhase, false);
+    QApplication::sendEvent(view, &e);
+    Settle();
+  };
+  auto minimapAsRebuilt = [&] {
+    const QImage shown = mini->grab().toImage();
+    mini->Rebuild();
+    return shown == mini->grab().toImage();
+  };
+  const QImage before = mini->grab().toImage();
+  const Long scrollBefore = UI.ScrollY;
+  wheelDown();
+  EXPECT_GT(UI.ScrollY, scrollBefore);
+  EXPECT_FALSE(before == mini->grab().toImage()) << "the minimap's view frame did not move";
+  EXPECT_TRUE(minimapAsRebuilt()) << "after a scroll";
+
+  // A change of the map waiting to be drawn when the wheel turns.
+  for (int x = 1; x <= 20; ++x) Hex[x][3].Land = kSea;
+  RequestRedraw(2);
+  wheelDown();
+  EXPECT_TRUE(minimapAsRebuilt()) << "after a scroll with a change of the map";
 }
 
 TEST_F(WindowTest, MinimapCellsFollowTheTablesAndTheFog) {
