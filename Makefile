@@ -1,9 +1,12 @@
 # The two commands of the README: `make play` and `make test`.
 BUILD ?= build
 ASAN_BUILD ?= build-asan
+FUZZ_BUILD ?= build-fuzz
+# Seconds each fuzz target runs in `make fuzz`.
+FUZZ_SECONDS ?= 60
 JOBS ?= 2
 
-.PHONY: play test deps build build-asan test-asan bench clean
+.PHONY: play test deps build build-asan test-asan bench clean fuzz fuzz-build
 
 deps:
 	@bash scripts/install-deps.sh
@@ -32,5 +35,25 @@ test: build build-asan
 bench: build
 	./$(BUILD)/bin/mfbench
 
+# The libFuzzer targets (clang, address and undefined sanitizers, undefined
+# behaviour fatal) in their own build folder, each run for FUZZ_SECONDS from
+# the seed corpus in the tree with the format's dictionary (tests/fuzz/run.sh).
+# Anything found fails the run.
+CCACHE := $(shell command -v ccache 2>/dev/null)
+# All targets, or some: make fuzz FUZZ_TARGETS="fuzz_json_import fuzz_script_runner"
+FUZZ_TARGETS ?=
+
+$(FUZZ_BUILD)/CMakeCache.txt:
+	CXX=clang++ CC=clang cmake -S . -B $(FUZZ_BUILD) -DCMAKE_BUILD_TYPE=RelWithDebInfo -DMF_FUZZ=ON \
+	  -DMF_BUILD_APP=OFF -DMF_BUILD_BENCH=OFF -DMF_WERROR=OFF $(if $(CCACHE),-DCMAKE_CXX_COMPILER_LAUNCHER=ccache)
+
+fuzz-build:
+	@bash scripts/install-deps.sh --fuzz
+	$(MAKE) $(FUZZ_BUILD)/CMakeCache.txt
+	cmake --build $(FUZZ_BUILD) -j$(JOBS) --target fuzz_targets
+
+fuzz: fuzz-build
+	bash tests/fuzz/run.sh $(FUZZ_BUILD) $(FUZZ_SECONDS) $(FUZZ_TARGETS)
+
 clean:
-	rm -rf $(BUILD) $(ASAN_BUILD)
+	rm -rf $(BUILD) $(ASAN_BUILD) $(FUZZ_BUILD)

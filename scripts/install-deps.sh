@@ -10,6 +10,10 @@ PACKAGES=(
   nlohmann-json3-dev
   xvfb xauth
 )
+# `make fuzz` (install-deps.sh --fuzz): clang and its fuzzing runtime.
+if [ "${1:-}" = "--fuzz" ]; then
+  PACKAGES=(clang libclang-rt-dev)
+fi
 
 missing=()
 for p in "${PACKAGES[@]}"; do
