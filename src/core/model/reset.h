@@ -36,6 +36,13 @@ void ClearForLoad();
 // the map window laid out, and for a new scenario the regime label "Editing".
 void AfterClearCommand(bool newScenario);
 
+// The state the game program opens in: zeroed tables, engine-variable labels
+// and defaults, the generator seeded with a fixed number (so that a script or
+// a compiled scenario repeats itself exactly unless it seeds on its own), an
+// empty map in editing mode with the editor panel hidden, and the map window
+// laid out.
+void StartFresh(std::uint32_t seed = 1);
+
 // Regime defaults of a new scenario's regime r: FormationName "Bataljon",
 // TextColor "&Hffffff", UnitSerial 0.
 void SetNewRegimeDefaults(int r);

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "model/arith.h"
+#include "model/bounds.h"
 #include "model/game_state.h"
 #include "model/hex_geometry.h"
 #include "platform/platform.h"
@@ -237,8 +238,8 @@ void DrawHex(int x, int y) {
 
 void DoDrawhex() {
   MapCanvas().Clear();
-  const int w = Game.MapW < kMapCap ? Game.MapW : kMapCap;
-  const int hgt = Game.MapH < kMapCap ? Game.MapH : kMapCap;
+  const int w = MapW();
+  const int hgt = MapH();
   if (!RangeModeOn()) {
     for (int x = 1; x <= w; ++x) {
       for (int y = 1; y <= hgt; ++y) Hex[x][y].Mark = 999;
@@ -251,8 +252,8 @@ void DoDrawhex() {
 }
 
 void DoDrawhex6() {
-  const int w = Game.MapW < kMapCap ? Game.MapW : kMapCap;
-  const int hgt = Game.MapH < kMapCap ? Game.MapH : kMapCap;
+  const int w = MapW();
+  const int hgt = MapH();
   const int x1 = UI.SelX - 15 < 1 ? 1 : UI.SelX - 15;
   const int x2 = UI.SelX + 15 > w ? w : UI.SelX + 15;
   const int y1 = UI.SelY - 15 < 1 ? 1 : UI.SelY - 15;
