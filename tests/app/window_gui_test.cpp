@@ -23,6 +23,7 @@
 #include "side_panel.h"
 #include "splash.h"
 #include "support/core_test.h"
+#include "view/counter.h"
 #include "view/draw_hex.h"
 
 namespace mf::app::test {
@@ -270,6 +271,35 @@ TEST_F(WindowTest, AScrollKeepsTheMinimapTheGames) {
   RequestRedraw(2);
   wheelDown();
   EXPECT_TRUE(minimapAsRebuilt()) << "after a scroll with a change of the map";
+}
+
+// An SHQ's counter reads "SHQ" where the attack stands and its defence
+// beside it: the wide word is drawn narrower, so that a blank of the card
+// stays between the two and they never read as "SHQ0".
+TEST_F(WindowTest, AnSHQsTwoFiguresStayApart) {
+  const QColor card(170, 30, 30);
+  for (int scale : {1, 2}) {
+    SCOPED_TRACE(scale);
+    ImageCanvas canvas(48, 41, card, scale);
+    canvas.Clear();
+    canvas.Text("SHQ", mf::kAttackTextX, mf::kFigureTextY, "Small Fonts", mf::kFigureFontSize, 0xFFFFFF);
+    canvas.Text("0", mf::kDefenceTextX, mf::kFigureTextY, "Small Fonts", mf::kFigureFontSize, 0xFFFFFF);
+    canvas.End();
+    const QImage& img = canvas.image();
+    // Whether any pixel of picture column `col` in the figures' band is ink.
+    auto inked = [&](int col) {
+      for (int px = col * scale; px < (col + 1) * scale; ++px)
+        for (int py = (mf::kFigureTextY - 1) * scale; py < (mf::kFigureTextY + 10) * scale; ++py)
+          if (img.pixelColor(px, py).lightness() > card.lightness() + 60) return true;
+      return false;
+    };
+    EXPECT_TRUE(inked(mf::kAttackTextX + 1));
+    EXPECT_TRUE(inked(mf::kDefenceTextX + 1));
+    // A blank as wide as a space: three clear columns before the defence.
+    int clear = 0;
+    for (int col = mf::kDefenceTextX - 3; col < mf::kDefenceTextX; ++col) clear += inked(col) ? 0 : 1;
+    EXPECT_EQ(clear, 3) << "the attack figure ran into the defence figure";
+  }
 }
 
 TEST_F(WindowTest, MinimapCellsFollowTheTablesAndTheFog) {
