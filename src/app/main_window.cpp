@@ -594,6 +594,8 @@ void MainWindow::SyncWithGame() {
   // Another game, regime, turn or mode than at the last sync: everything is
   // drawn afresh, whatever the game asked for.
   const GameFace face = CurrentFace();
+  // A view that only scrolled shows the same map: its minimap picture stays.
+  const bool scrolledOnly = map_->TakeScrolledOnly() && face == lastFace_;
   if (face != lastFace_) {
     lastFace_ = face;
     RequestRedraw(2);
@@ -610,7 +612,7 @@ void MainWindow::SyncWithGame() {
   const bool redraw = UI.RedrawRequest > 0;
   map_->RedrawRequested();
   map_->SyncFromGame();
-  if (redraw) minimap_->Rebuild();
+  if (redraw && !scrolledOnly) minimap_->Rebuild();
   minimap_->update();
 
   // The side panel for the selected hex.

@@ -138,6 +138,18 @@ void MapWidget::SyncFromGame() {
   syncing_ = false;
 }
 
+bool MapWidget::TakeScrolledOnly() {
+  const bool only = scrolledOnly_;
+  scrolledOnly_ = false;
+  return only;
+}
+
+void MapWidget::RedrawForScroll() {
+  // Only when nothing else is waiting to be drawn is it a scroll alone.
+  if (UI.RedrawRequest == 0) scrolledOnly_ = true;
+  RequestRedraw(2);
+}
+
 void MapWidget::RedrawRequested() {
   const Long what = UI.RedrawRequest;
   // Cleared first: drawing lets the event loop run, and a request made in
@@ -204,7 +216,7 @@ void MapWidget::ScrollMoved(Qt::Orientation o, int value, bool dragging) {
     view_->update();
     return;
   }
-  RequestRedraw(2);
+  RedrawForScroll();
   emit Acted();
 }
 
@@ -214,7 +226,7 @@ bool MapWidget::ScrollBy(int dx, int dy) {
   if (x == UI.ScrollX && y == UI.ScrollY) return false;
   UI.ScrollX = x;
   UI.ScrollY = y;
-  RequestRedraw(2);
+  RedrawForScroll();
   emit Acted();
   return true;
 }
@@ -251,7 +263,7 @@ void MapWidget::Wheel(QWheelEvent* e) {
 void MapWidget::ScrollReleased() {
   if (UI.ScrollPending == 0) return;
   UI.ScrollPending = 0;
-  RequestRedraw(2);
+  RedrawForScroll();
   emit Acted();
 }
 

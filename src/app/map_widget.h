@@ -32,6 +32,10 @@ class MapWidget : public QWidget {
   // Whether presses reach the game (off while the game is busy).
   void SetInteractive(bool on) { interactive_ = on; }
   MapView* view() const { return view_; }
+  // Whether the redraw now asked for comes from scrolling alone (and clears
+  // the note): the map's content is as it was, so what the window derives
+  // from the whole map, such as the minimap's picture, stays as it is.
+  bool TakeScrolledOnly();
   ImageCanvas& canvas() { return canvas_; }
   // The window point (in the view's pixels) of the centre of hex (x, y).
   QPoint HexCentreOnView(int x, int y) const;
@@ -82,6 +86,9 @@ class MapWidget : public QWidget {
   HexXY hover_;
   HexXY dragged_;
   int wheelRest_ = 0;  // eighths of a degree not yet turned into a step
+  bool scrolledOnly_ = false;
+  // Asks for the redraw of a view that moved.
+  void RedrawForScroll();
 };
 
 // The picture itself.

@@ -6,6 +6,7 @@
 #include <QFont>
 #include <QFontMetrics>
 
+#include "view/counter.h"
 #include "view/sprite_table.h"
 
 namespace mf::app {
@@ -169,6 +170,23 @@ void ImageCanvas::Text(const std::string& text, int x, int y, const std::string&
   const QFontMetrics fm(f);
   const QString t = QString::fromStdString(text);
   const QColor ink = GameColour(colour);
+  // A counter figure keeps to its place: one wider than the room before the
+  // next figure ("SHQ", "+-12") is drawn narrower, so that it never runs
+  // into the defence figure and the two read as two ("SHQ 0", not "SHQ0").
+  const int room = mf::kDefenceTextX - mf::kAttackTextX - 4;
+  const int wide = fm.horizontalAdvance(t);
+  const double squeeze = figures && wide > room ? static_cast<double>(room) / wide : 1.0;
+  auto draw = [&](int dx, int dy) {
+    if (squeeze == 1.0) {
+      p.drawText(x + dx, y + dy + fm.ascent(), t);
+      return;
+    }
+    p.save();
+    p.translate(x + dx, 0);
+    p.scale(squeeze, 1.0);
+    p.drawText(0, y + dy + fm.ascent(), t);
+    p.restore();
+  };
   // What the figure stands on: the counter's band, or the terrain.
   const int bx = std::clamp((x + 1) * scale_, 0, image_.width() - 1);
   const int by = std::clamp((y + 3) * scale_, 0, image_.height() - 1);
@@ -183,10 +201,10 @@ void ImageCanvas::Text(const std::string& text, int x, int y, const std::string&
     // straight ones, so that small figures stay clean.
     for (int dx = -1; dx <= 1; ++dx)
       for (int dy = -1; dy <= 1; ++dy)
-        if ((dx != 0 || dy != 0) && (!figures || dx == 0 || dy == 0)) p.drawText(x + dx, y + dy + fm.ascent(), t);
+        if ((dx != 0 || dy != 0) && (!figures || dx == 0 || dy == 0)) draw(dx, dy);
   }
   p.setPen(ink);
-  p.drawText(x, y + fm.ascent(), t);
+  draw(0, 0);
 }
 
 }  // namespace mf::app

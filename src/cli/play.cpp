@@ -24,6 +24,7 @@
 #include "model/invariants.h"
 #include "model/reset.h"
 #include "model/rnd.h"
+#include "platform/file_io.h"
 #include "platform/scripted_platform.h"
 #include "session.h"
 
@@ -448,7 +449,7 @@ int BalanceCommand(const Args& args, std::ostream& out, std::ostream& err) {
       }
       table << "\r\n";
     }
-    if (!WriteBytes(csv, table.str())) {
+    if (!ReplaceFileAtomically(csv, table.str())) {
       err << "balance: cannot write " << csv << "\n";
       return 1;
     }

@@ -27,6 +27,7 @@
 #include "model/reset.h"
 #include "model/rnd.h"
 #include "orders/command.h"
+#include "platform/file_io.h"
 #include "platform/paths.h"
 #include "platform/scripted_platform.h"
 #include "control/random_flow.h"
@@ -674,7 +675,7 @@ int RunScriptText(const std::string& text, const std::string& name, const std::s
 
 int RunScriptFile(const std::string& path, std::ostream& out, std::ostream& err) {
   std::string text, why;
-  if (!ReadBytes(path, &text, &why)) {
+  if (!ReadWholeFile(path, &text, &why)) {
     err << "cannot read script " << path << ": " << why << "\n";
     return 1;
   }

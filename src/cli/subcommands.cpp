@@ -3,10 +3,11 @@
 #include <filesystem>
 #include <ostream>
 
-#include "compile_content.h"
+#include "compile_command.h"
 #include "files/json_io.h"
 #include "files/scenario_file.h"
 #include "files/scenario_schema.h"
+#include "platform/file_io.h"
 #include "model/reset.h"
 #include "play.h"
 #include "platform/scripted_platform.h"
@@ -75,11 +76,11 @@ struct Printing {
 // no repairs, and the file on disk is left as it was.
 bool LoadForListing(const std::string& path, std::string* why) {
   std::string bytes, reason;
-  if (!ReadBytes(path, &bytes, &reason)) {
+  bool scrambled = false;
+  if (!ReadPlainBytes(path, &bytes, &scrambled, &reason)) {
     *why = "cannot read " + path + ": " + reason;
     return false;
   }
-  if (LooksScrambled(bytes)) bytes = FlipBytes(bytes);
   StartFresh();
   onlyclear();
   const long version = ParseScenario(bytes);
@@ -174,7 +175,7 @@ int ExportCommand(const Args& args, std::ostream& out, std::ostream& err) {
     err << "export: " << why << "\n";
     return 1;
   }
-  if (!WriteBytes(output, ExportJson(), &why)) {
+  if (!ReplaceFileAtomically(output, ExportJson(), &why)) {
     err << "export: cannot write " << output << ": " << why << "\n";
     return 1;
   }
@@ -193,7 +194,7 @@ int ImportJsonCommand(const Args& args, std::ostream& out, std::ostream& err) {
     return 1;
   }
   std::string json;
-  if (!ReadBytes(pos[0], &json, &why)) {
+  if (!ReadWholeFile(pos[0], &json, &why)) {
     err << "import: cannot read " << pos[0] << ": " << why << "\n";
     return 1;
   }
@@ -219,12 +220,12 @@ int ScrambleCommand(const Args& args, bool scramble, std::ostream& out, std::ost
   }
   const std::string& path = args[0];
   std::string bytes, why;
-  if (!ReadBytes(path, &bytes, &why)) {
+  // The state is decided as a load decides it, by the first number.
+  bool scrambled = false;
+  if (!ReadPlainBytes(path, &bytes, &scrambled, &why)) {
     err << cmd << ": cannot read " << path << ": " << why << "\n";
     return 1;
   }
-  // The state is decided as a load decides it, by the first number.
-  const bool scrambled = LooksScrambled(bytes);
   if (scramble && scrambled) {
     err << "scramble: " << path << " is already scrambled\n";
     return 1;

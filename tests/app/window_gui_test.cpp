@@ -4,6 +4,7 @@
 #include <QAction>
 #include <QApplication>
 #include <QMouseEvent>
+#include <QWheelEvent>
 #include <QScrollBar>
 #include <QSet>
 #include <QImage>
@@ -22,6 +23,7 @@
 #include "side_panel.h"
 #include "splash.h"
 #include "support/core_test.h"
+#include "view/counter.h"
 #include "view/draw_hex.h"
 
 namespace mf::app::test {
@@ -231,6 +233,73 @@ TEST_F(WindowTest, TheMinimapMovesTheMapWindow) {
   const QPoint c = window->mapWidget()->HexCentreOnView(70, 40);
   EXPECT_GT(c.x(), 0);
   EXPECT_LT(c.x(), window->mapWidget()->view()->width());
+}
+
+// A wheel notch moves the view without drawing the minimap's picture of the
+// whole map again; the minimap still shows the game, the moved view and any
+// change the game asked to be drawn together with the scroll.
+TEST_F(WindowTest, AScrollKeepsTheMinimapTheGames) {
+  world::NewMap(80, 80);
+  const std::string path = TempPath("scroll.mf1");
+  ASSERT_TRUE(WriteFile(path));
+  ASSERT_TRUE(window->OpenFile(QString::fromStdString(path)));
+  window->SyncWithGame();
+  Settle();
+  Minimap* mini = window->minimap();
+  QWidget* view = window->mapWidget()->view();
+  auto wheelDown = [&] {
+    const QPointF at(view->width() / 2.0, view->height() / 2.0);
+    QWheelEvent e(at, view->mapToGlobal(at), QPoint(), QPoint(0, -120), Qt::NoButton, Qt::NoModifier,
+                  Qt::NoScrollPhase, false);
+    QApplication::sendEvent(view, &e);
+    Settle();
+  };
+  auto minimapAsRebuilt = [&] {
+    const QImage shown = mini->grab().toImage();
+    mini->Rebuild();
+    return shown == mini->grab().toImage();
+  };
+  const QImage before = mini->grab().toImage();
+  const Long scrollBefore = UI.ScrollY;
+  wheelDown();
+  EXPECT_GT(UI.ScrollY, scrollBefore);
+  EXPECT_FALSE(before == mini->grab().toImage()) << "the minimap's view frame did not move";
+  EXPECT_TRUE(minimapAsRebuilt()) << "after a scroll";
+
+  // A change of the map waiting to be drawn when the wheel turns.
+  for (int x = 1; x <= 20; ++x) Hex[x][3].Land = kSea;
+  RequestRedraw(2);
+  wheelDown();
+  EXPECT_TRUE(minimapAsRebuilt()) << "after a scroll with a change of the map";
+}
+
+// An SHQ's counter reads "SHQ" where the attack stands and its defence
+// beside it: the wide word is drawn narrower, so that a blank of the card
+// stays between the two and they never read as "SHQ0".
+TEST_F(WindowTest, AnSHQsTwoFiguresStayApart) {
+  const QColor card(170, 30, 30);
+  for (int scale : {1, 2}) {
+    SCOPED_TRACE(scale);
+    ImageCanvas canvas(48, 41, card, scale);
+    canvas.Clear();
+    canvas.Text("SHQ", mf::kAttackTextX, mf::kFigureTextY, "Small Fonts", mf::kFigureFontSize, 0xFFFFFF);
+    canvas.Text("0", mf::kDefenceTextX, mf::kFigureTextY, "Small Fonts", mf::kFigureFontSize, 0xFFFFFF);
+    canvas.End();
+    const QImage& img = canvas.image();
+    // Whether any pixel of picture column `col` in the figures' band is ink.
+    auto inked = [&](int col) {
+      for (int px = col * scale; px < (col + 1) * scale; ++px)
+        for (int py = (mf::kFigureTextY - 1) * scale; py < (mf::kFigureTextY + 10) * scale; ++py)
+          if (img.pixelColor(px, py).lightness() > card.lightness() + 60) return true;
+      return false;
+    };
+    EXPECT_TRUE(inked(mf::kAttackTextX + 1));
+    EXPECT_TRUE(inked(mf::kDefenceTextX + 1));
+    // A blank as wide as a space: three clear columns before the defence.
+    int clear = 0;
+    for (int col = mf::kDefenceTextX - 3; col < mf::kDefenceTextX; ++col) clear += inked(col) ? 0 : 1;
+    EXPECT_EQ(clear, 3) << "the attack figure ran into the defence figure";
+  }
 }
 
 TEST_F(WindowTest, MinimapCellsFollowTheTablesAndTheFog) {

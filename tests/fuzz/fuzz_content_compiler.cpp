@@ -14,6 +14,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   fuzz::FreshGame();
   const std::string path = fuzz::WriteScratch("source.txt", fuzz::AsText(data, size));
   std::vector<std::string> errors;
-  if (cli::CompileContent(path, &errors)) SerializeScenario();
+  if (content::CompileContent(path, &errors)) SerializeScenario();
   return 0;
 }

@@ -10,14 +10,13 @@
 #include "model/engine_vars.h"
 #include "model/game_state.h"
 #include "model/reset.h"
-#include "session.h"
 #include "view/counter.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   using namespace mf;
   fuzz::FreshGame();
   std::string bytes = fuzz::AsText(data, size);
-  if (cli::LooksScrambled(bytes)) bytes = cli::FlipBytes(bytes);
+  UnscrambleBytes(&bytes);
   onlyclear();
   const long version = ParseScenario(bytes);
   if (version > kFileVersion) return 0;  // refused before the rest is read

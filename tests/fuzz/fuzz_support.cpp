@@ -5,7 +5,7 @@
 #include <random>
 
 #include "platform/scripted_platform.h"
-#include "session.h"
+#include "model/reset.h"
 
 namespace fs = std::filesystem;
 
@@ -16,7 +16,7 @@ void FreshGame() {
   // The record of every box would grow without end over millions of inputs.
   platform.Clear();
   InstallPlatform(&platform);
-  cli::StartFresh();
+  StartFresh();
 }
 
 std::string AsText(const std::uint8_t* data, std::size_t size) {

@@ -355,10 +355,15 @@ bool FileExists(const std::string& path) {
   return fs::exists(path, ec);
 }
 
+bool UnscrambleBytes(std::string* bytes) {
+  if (FirstNumber(*bytes) != 0) return false;
+  FlipTopBits(*bytes);
+  return true;
+}
+
 bool ReadPlainBytes(const std::string& path, std::string* bytes, bool* wasScrambled, std::string* why) {
   if (!ReadWholeFile(path, bytes, why)) return false;
-  *wasScrambled = FirstNumber(*bytes) == 0;
-  if (*wasScrambled) FlipTopBits(*bytes);
+  *wasScrambled = UnscrambleBytes(bytes);
   return true;
 }
 

@@ -24,6 +24,10 @@ long ParseScenario(const std::string& plain, bool importOnly = false);
 
 // True when something exists at path.
 bool FileExists(const std::string& path);
+// File bytes held in memory made plain as a load makes them: when their first
+// number is 0 they are scrambled (no real file starts with 0, and scrambled
+// bytes form no number) and are flipped back. True when they were scrambled.
+bool UnscrambleBytes(std::string* bytes);
 // Reads the bytes of a file to be loaded (false, with the reason, for what
 // is no readable regular file) and unscrambles them in memory when the first
 // number is 0. The file on disk is not touched: the end state the rules ask

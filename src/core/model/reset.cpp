@@ -5,6 +5,7 @@
 #include "model/engine_vars.h"
 #include "model/game_state.h"
 #include "model/hex_geometry.h"
+#include "model/rnd.h"
 
 namespace mf {
 namespace {
@@ -19,6 +20,16 @@ int MapSizeFromText(const std::string& text) {
 }
 
 }  // namespace
+
+void StartFresh(std::uint32_t seed) {
+  ZeroAllTables();
+  FillEngineVarLabels();
+  SetEngineVarDefaults();
+  SeedRnd(seed);
+  UI.EditMode = 1;
+  UI.HideEditor = true;
+  setup();
+}
 
 void setup() {
   UI.PictureW = MapPictureW();

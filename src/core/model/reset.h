@@ -1,6 +1,7 @@
 // Clearing a game and laying out the map window for it.
 #pragma once
 
+#include <cstdint>
 #include <string>
 
 namespace mf {
@@ -30,6 +31,13 @@ void onlyclear();
 // What the menu's clear commands do after the dialog: fog off, editing on,
 // setup, and for a new scenario the regime label "Editing".
 void AfterClearCommand(bool newScenario);
+
+// The state the game program opens in: zeroed tables, engine-variable labels
+// and defaults, the generator seeded with a fixed number (so that a script or
+// a compiled scenario repeats itself exactly unless it seeds on its own), an
+// empty map in editing mode with the editor panel hidden, and the map window
+// laid out.
+void StartFresh(std::uint32_t seed = 1);
 
 // Regime defaults of a new scenario's regime r: FormationName "Bataljon",
 // TextColor "&Hffffff", UnitSerial 0.

@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "compile_command.h"
 #include "compile_content.h"
 #include "content_test_util.h"
 #include "control/scenario_flow.h"
@@ -90,7 +91,7 @@ class Compiler : public CoreTest {
   std::vector<std::string> Compile(const std::string& text) {
     path_ = Write(text);
     std::vector<std::string> errors;
-    const bool ok = cli::CompileContent(path_, &errors);
+    const bool ok = content::CompileContent(path_, &errors);
     EXPECT_EQ(ok, errors.empty());
     return errors;
   }
@@ -330,6 +331,34 @@ TEST_F(Compiler, TheCommandWritesAFileThatLoads) {
   std::ostringstream o3, e3;
   EXPECT_EQ(cli::CompileCommand({source}, o3, e3), 1);
   EXPECT_EQ(e3.str(), "usage: marrowfield-cli compile SOURCE -o FILE\n");
+}
+
+// Source held in memory compiles to the same scenario as the same source on
+// disk, its faults name the given file, and its includes are found beside it.
+TEST_F(Compiler, SourceInMemoryCompilesAsOnDisk) {
+  ASSERT_TRUE(Compile(BaseSource()).empty());
+  const std::string fromDisk = SerializeScenario();
+
+  const std::string name = TempPath("memory.mfc");
+  std::vector<std::string> errors;
+  ASSERT_TRUE(content::CompileContentText(BaseSource(), name, &errors)) << Joined(errors);
+  EXPECT_EQ(SerializeScenario(), fromDisk);
+
+  const std::string s = Replace(BaseSource(), "Experience = 50", "Experience = fifty");
+  errors.clear();
+  EXPECT_FALSE(content::CompileContentText(s, name, &errors));
+  ASSERT_EQ(errors.size(), 1u) << Joined(errors);
+  path_ = name;
+  EXPECT_EQ(errors[0], At(s, "Experience = fifty") + ": Experience: \"fifty\" is neither a number nor a known name");
+
+  // The events stand in a file of their own beside the named one.
+  const std::string base = BaseSource();
+  const std::size_t events = base.find("[event 1]");
+  Write(base.substr(events), "events.mfc");
+  errors.clear();
+  ASSERT_TRUE(content::CompileContentText(base.substr(0, events) + "include events.mfc\n", name, &errors))
+      << Joined(errors);
+  EXPECT_EQ(SerializeScenario(), fromDisk);
 }
 
 }  // namespace
