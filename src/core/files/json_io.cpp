@@ -56,6 +56,65 @@ void AppendJsonString(std::string& out, const std::string& s) {
   out += json(s).dump(-1, ' ', false, json::error_handler_t::replace);
 }
 
+// Names of fields as the walk meets them. The fields of one record come one
+// after another, so the record's part of the name ("Hex[3,4].") is made once
+// for all of them.
+class NameCache {
+ public:
+  void AppendTo(const FieldName& n, std::string& out) {
+    if (!any_ || !n.SameRecord(last_)) {
+      record_.clear();
+      n.AppendRecordTo(record_);
+      last_ = n;
+      any_ = true;
+    }
+    out += record_;
+    n.AppendFieldTo(out);
+  }
+  // The name, valid until the next call.
+  std::string_view Of(const FieldName& n) {
+    name_.clear();
+    AppendTo(n, name_);
+    return name_;
+  }
+
+ private:
+  FieldName last_;
+  bool any_ = false;
+  std::string record_;
+  std::string name_;
+};
+
+// Counts what an export writes, to make room for it at once: the text of a
+// large scenario runs to many megabytes, and a text that grows as it is
+// written is copied over and over.
+class SizeVisitor {
+ public:
+  std::size_t fields = 0;
+  std::size_t textBytes = 0;
+
+  mf::Long Long(const FieldName& n, mf::Long& ref, Check c = {}) {
+    fields += n.repeat ? 0 : 1;
+    return SavedValue(n, ref, c);
+  }
+  mf::Long Short(const FieldName& n, mf::Short& ref, Check c = {}) {
+    fields += n.repeat ? 0 : 1;
+    return SavedValue(n, ref, c);
+  }
+  mf::Long Bool(const FieldName& n, mf::Long& ref) {
+    fields += n.repeat ? 0 : 1;
+    return ref != 0 ? kTrue : kFalse;
+  }
+  void Text(const FieldName& n, std::string& ref) {
+    fields += n.repeat ? 0 : 1;
+    textBytes += ref.size();
+  }
+  void LongText(const FieldName& n, std::string& ref) { Text(n, ref); }
+  void Assign(const FieldName&, mf::Long&, mf::Long) {}
+  bool HeadHasFog(mf::Long) { return true; }
+  bool Proceed(mf::Long) { return true; }
+};
+
 class ExportVisitor {
  public:
   explicit ExportVisitor(std::string& out) : out_(out) {}
@@ -71,7 +130,10 @@ class ExportVisitor {
     return value;
   }
   mf::Long Bool(const FieldName& n, mf::Long& ref) {
-    if (Open(n)) out_ += ref != 0 ? "true" : "false";
+    if (Open(n)) {
+      if (ref != 0) out_.append("true", 4);
+      else out_.append("false", 5);
+    }
     return ref != 0 ? kTrue : kFalse;
   }
   void Text(const FieldName& n, std::string& ref) {
@@ -89,13 +151,13 @@ class ExportVisitor {
   // field of the file has its one entry already.
   bool Open(const FieldName& n) {
     if (n.repeat) return false;
-    out_ += first_ ? "\n    " : ",\n    ";
+    if (first_) out_.append("\n    \"", 6);
+    else out_.append(",\n    \"", 7);
     first_ = false;
     // Field names are plain letters, digits and brackets: written as they
     // are, straight into the text.
-    out_ += '"';
-    n.AppendTo(out_);
-    out_ += "\": ";
+    names_.AppendTo(n, out_);
+    out_.append("\": ", 3);
     return true;
   }
   void Number(mf::Long value) {
@@ -105,74 +167,130 @@ class ExportVisitor {
   }
 
   std::string& out_;
+  NameCache names_;
   bool first_ = true;
 };
 
-// The members of the "fields" object as the parser meets them, kept flat:
-// names and texts in one run of characters, numbers as the parser gave them.
+// The members of the "fields" object as the reader meets them, kept flat:
+// names and texts where they stand in the JSON text when they need no
+// decoding, otherwise decoded into one run of characters; numbers as read.
 // A name given twice keeps its last value, as a JSON object does.
+// A scenario has about a million members, so a member is kept small: its
+// value is one of a number, a switch or a text, by its kind.
 struct FieldValue {
   enum Kind : std::uint8_t { kNull, kBool, kInteger, kUnsigned, kFloat, kText, kList, kObject };
   Kind kind = kNull;
   bool on = false;
-  std::int64_t integer = 0;
-  std::uint64_t whole = 0;
-  double real = 0;
-  std::uint32_t textAt = 0, textSize = 0;
+  std::uint32_t textSize = 0;
+  union {
+    std::int64_t integer = 0;
+    std::uint64_t whole;
+    double real;
+    const char* text;
+  };
 };
 
 struct FieldEntry {
-  std::uint32_t nameAt = 0, nameSize = 0;
+  const char* name = nullptr;
+  std::uint32_t nameSize = 0;
+  std::uint32_t hash = 0;   // its name's hash
   FieldValue value;
   bool superseded = false;  // the same name comes again later
   bool found = false;       // the walk asked for it
 };
+static_assert(sizeof(FieldEntry) <= 40);
 
 class FieldTable {
  public:
   std::vector<FieldEntry> entries;
-  std::string chars;
+  std::size_t superseded = 0;  // members another of the same name comes after
 
+  // Room for the decoded texts of a JSON text of this size: no decoded text
+  // is longer than it was written, so they never move once kept.
+  void Reserve(std::size_t textSize) {
+    chars_.reserve(textSize + 1);
+    entries.reserve(textSize / 16 + 16);
+  }
   void Clear() {
     entries.clear();
-    chars.clear();
-    slots_.assign(slots_.size(), HashSlot{});
-    used_ = 0;
+    chars_.clear();
+    slots_.clear();
+    superseded = next_ = lastAgain_ = strideAgain_ = 0;
   }
 
-  std::string_view Name(const FieldEntry& e) const { return {chars.data() + e.nameAt, e.nameSize}; }
-  std::string Text(const FieldValue& v) const { return std::string(chars.data() + v.textAt, v.textSize); }
+  static std::string_view Name(const FieldEntry& e) { return {e.name, e.nameSize}; }
+  static std::string Text(const FieldValue& v) { return std::string(v.text, v.textSize); }
 
-  std::uint32_t Keep(std::string_view text) {
-    const auto at = static_cast<std::uint32_t>(chars.size());
-    chars.append(text);
+  // A decoded text, kept.
+  const char* Keep(std::string_view text) {
+    const char* at = chars_.data() + chars_.size();
+    chars_.append(text);
     return at;
   }
 
-  // A new member; an earlier one of the same name gives way to it.
+  // A new member, in the order of the text.
   void Add(std::string_view name, const FieldValue& value) {
     FieldEntry e;
-    e.nameAt = Keep(name);
+    e.name = name.data();
     e.nameSize = static_cast<std::uint32_t>(name.size());
     e.value = value;
     entries.push_back(e);
-    const auto index = static_cast<std::uint32_t>(entries.size());  // from 1; 0 is an empty slot
-    if (2 * (used_ + 1) > slots_.size()) Grow();
-    const std::size_t hash = Hash(name);
-    HashSlot& slot = Slot(name, hash);
-    if (slot.index != 0) {
-      entries[slot.index - 1].superseded = true;
-    } else {
-      ++used_;
-      slot.hash = static_cast<std::uint32_t>(hash);
+  }
+
+  // Makes the table of names once all members are in: an earlier member of a
+  // name gives way to a later one. The slots are far apart in memory, so
+  // each is asked for a few members ahead of its use.
+  void Index() {
+    std::size_t size = 1024;
+    while (size < 2 * entries.size()) size *= 2;
+    slots_.assign(size, HashSlot{});
+    const std::size_t mask = size - 1;
+    for (FieldEntry& e : entries) e.hash = Hash(Name(e));
+    for (std::size_t i = 0; i < entries.size(); ++i) {
+      if (i + kAhead < entries.size()) __builtin_prefetch(&slots_[entries[i + kAhead].hash & mask]);
+      const std::string_view name = Name(entries[i]);
+      HashSlot& slot = Slot(name, entries[i].hash);
+      if (slot.index != 0) {
+        entries[slot.index - 1].superseded = true;
+        ++superseded;
+      } else {
+        slot.hash = entries[i].hash;
+      }
+      slot.index = static_cast<std::uint32_t>(i + 1);
     }
-    slot.index = index;
   }
 
   // The member of that name, or nullptr. The walk asks for the names in the
-  // order an export writes them, so the next member is tried first.
-  FieldEntry* Find(std::string_view name) {
+  // order an export writes them, so the next member is tried first. A field
+  // asked for once more (a regime's sight, read again after its news) was
+  // written with the first asking: the walk goes on after the member it had
+  // reached, and the member asked for again is first looked for as far on
+  // from the last one asked for again as that was from the one before, so
+  // that a run of them, hex by hex, finds each at the first try.
+  FieldEntry* Find(std::string_view name, bool again) {
+    if (again) {
+      const std::size_t guess = lastAgain_ + strideAgain_;
+      std::size_t at = 0;
+      if (guess < entries.size() && !entries[guess].superseded && Name(entries[guess]) == name) {
+        at = guess + 1;
+      } else {
+        if (slots_.empty()) return nullptr;
+        at = Slot(name, Hash(name)).index;
+        if (at == 0) return nullptr;
+      }
+      strideAgain_ = at - 1 - lastAgain_;
+      lastAgain_ = at - 1;
+      // The next two guesses, fetched ahead: the member, and its name.
+      if (lastAgain_ + 2 * strideAgain_ < entries.size()) {
+        __builtin_prefetch(&entries[lastAgain_ + 2 * strideAgain_]);
+        __builtin_prefetch(entries[lastAgain_ + strideAgain_].name);
+      }
+      return &entries[at - 1];
+    }
     while (next_ < entries.size() && entries[next_].superseded) ++next_;
+    // The names stand in the text, read long before: the ones the walk will
+    // ask for next are fetched ahead.
+    if (next_ + kAhead < entries.size()) __builtin_prefetch(entries[next_ + kAhead].name);
     if (next_ < entries.size() && Name(entries[next_]) == name) return &entries[next_++];
     if (slots_.empty()) return nullptr;
     const HashSlot& slot = Slot(name, Hash(name));
@@ -181,43 +299,34 @@ class FieldTable {
     return &entries[slot.index - 1];
   }
 
-  std::size_t Count() const { return used_; }
-
  private:
-  static std::size_t Hash(std::string_view text) { return std::hash<std::string_view>{}(text); }
+  // How far ahead the slots and the names are fetched.
+  static constexpr std::size_t kAhead = 16;
+
+  static std::uint32_t Hash(std::string_view text) {
+    return static_cast<std::uint32_t>(std::hash<std::string_view>{}(text));
+  }
 
   // A slot of the table of names: the member's index from 1 (0 for an empty
-  // slot) and the low half of its name's hash, which settles most probes
-  // without looking at the name.
+  // slot) and its name's hash, which settles most probes without looking at
+  // the name.
   struct HashSlot {
     std::uint32_t index = 0;
     std::uint32_t hash = 0;
   };
 
-  HashSlot& Slot(std::string_view name, std::size_t hash) {
+  HashSlot& Slot(std::string_view name, std::uint32_t hash) {
     const std::size_t mask = slots_.size() - 1;
-    const auto low = static_cast<std::uint32_t>(hash);
     std::size_t i = hash & mask;
-    while (slots_[i].index != 0 && (slots_[i].hash != low || Name(entries[slots_[i].index - 1]) != name))
+    while (slots_[i].index != 0 && (slots_[i].hash != hash || Name(entries[slots_[i].index - 1]) != name))
       i = (i + 1) & mask;
     return slots_[i];
   }
-  void Grow() {
-    std::vector<HashSlot> old = std::move(slots_);
-    slots_.assign(old.empty() ? 1024 : 2 * old.size(), HashSlot{});
-    const std::size_t mask = slots_.size() - 1;
-    for (const HashSlot& h : old) {
-      if (h.index == 0) continue;
-      // Names in the table are all different: the first empty slot is theirs.
-      std::size_t i = h.hash & mask;
-      while (slots_[i].index != 0) i = (i + 1) & mask;
-      slots_[i] = h;
-    }
-  }
 
+  std::string chars_;
   std::vector<HashSlot> slots_;
-  std::size_t used_ = 0;
   std::size_t next_ = 0;
+  std::size_t lastAgain_ = 0, strideAgain_ = 0;
 };
 
 // Reads a scenario's JSON in one pass without building the document: the
@@ -268,7 +377,7 @@ class ScenarioSax {
     if (depth_ != 2 || !inFields_) return Scalar(FieldValue{});
     FieldValue v;
     v.kind = FieldValue::kText;
-    v.textAt = table_.Keep(val);
+    v.text = table_.Keep(val);
     v.textSize = static_cast<std::uint32_t>(val.size());
     return Member(v);
   }
@@ -300,7 +409,7 @@ class ScenarioSax {
     return true;
   }
   bool Member(const FieldValue& v) {
-    table_.Add(member_, v);
+    table_.Add(std::string_view(table_.Keep(member_), member_.size()), v);
     return true;
   }
   void FieldsAre(bool object) {
@@ -336,6 +445,248 @@ class ScenarioSax {
   bool inFields_ = false;
   std::string key_;
   std::string member_;
+};
+
+
+// Reads the JSON an export writes, and only that, straight from the text: an
+// object of "format" (a text), "fileVersion" (a whole number) and "fields"
+// (an object of texts, whole numbers, true, false and null), in that order,
+// with any white space. The members of "fields" go into the table; names and
+// texts that need no decoding stay where they stand in the text. On anything
+// else, right or wrong, it gives up and the library reads the text instead,
+// so that every other text is read, and every error told, as the library
+// reads and tells it.
+class NarrowReader {
+ public:
+  NarrowReader(const std::string& text, FieldTable& table)
+      : p_(text.data()), end_(text.data() + text.size()), table_(table) {}
+
+  bool Read(std::string& format) {
+    std::string_view name;
+    FieldValue v;
+    if (!Skip('{') || !Key(name) || name != "format" || !Text(v)) return false;
+    format.assign(v.text, v.textSize);
+    if (!Skip(',') || !Key(name) || name != "fileVersion" || !Scalar(v) || !IsWhole(v)) return false;
+    if (!Skip(',') || !Key(name) || name != "fields" || !Skip('{')) return false;
+    SkipBlank();
+    if (p_ < end_ && *p_ == '}') {
+      ++p_;
+    } else {
+      for (;;) {
+        if (!Key(name) || !Scalar(v)) return false;
+        table_.Add(name, v);
+        SkipBlank();
+        if (p_ >= end_) return false;
+        const char c = *p_++;
+        if (c == '}') break;
+        if (c != ',') return false;
+      }
+    }
+    if (!Skip('}')) return false;
+    SkipBlank();
+    return p_ == end_;
+  }
+
+ private:
+  static bool IsWhole(const FieldValue& v) { return v.kind == FieldValue::kInteger || v.kind == FieldValue::kUnsigned; }
+
+  void SkipBlank() {
+    while (p_ < end_ && (*p_ == ' ' || *p_ == '\n' || *p_ == '\r' || *p_ == '\t')) ++p_;
+  }
+  bool Skip(char c) {
+    SkipBlank();
+    if (p_ >= end_ || *p_ != c) return false;
+    ++p_;
+    return true;
+  }
+  // "name": with the colon.
+  bool Key(std::string_view& name) {
+    FieldValue v;
+    if (!Text(v) || !Skip(':')) return false;
+    name = std::string_view(v.text, v.textSize);
+    return true;
+  }
+
+  // A text, after blanks.
+  bool Text(FieldValue& v) {
+    SkipBlank();
+    if (p_ >= end_ || *p_ != '"') return false;
+    const char* const start = ++p_;
+    // Most texts are plain: printable ASCII without escapes.
+    while (p_ < end_) {
+      const auto b = static_cast<unsigned char>(*p_);
+      if (b == '"' || b == '\\' || b < 0x20 || b >= 0x80) break;
+      ++p_;
+    }
+    if (p_ >= end_) return false;
+    if (*p_ == '"') {
+      v.kind = FieldValue::kText;
+      v.text = start;
+      v.textSize = static_cast<std::uint32_t>(p_ - start);
+      ++p_;
+      return true;
+    }
+    // Otherwise it is decoded into the table's characters.
+    std::string& out = scratch_;
+    out.assign(start, p_);
+    while (p_ < end_) {
+      const auto b = static_cast<unsigned char>(*p_);
+      if (b == '"') {
+        ++p_;
+        v.kind = FieldValue::kText;
+        v.text = table_.Keep(out);
+        v.textSize = static_cast<std::uint32_t>(out.size());
+        return true;
+      }
+      if (b < 0x20) return false;
+      if (b == '\\') {
+        if (!Escape(out)) return false;
+      } else if (b >= 0x80) {
+        if (!Utf8(out)) return false;
+      } else {
+        out += static_cast<char>(b);
+        ++p_;
+      }
+    }
+    return false;
+  }
+  int HexDigit(char c) const {
+    if (c >= '0' && c <= '9') return c - '0';
+    if (c >= 'a' && c <= 'f') return c - 'a' + 10;
+    if (c >= 'A' && c <= 'F') return c - 'A' + 10;
+    return -1;
+  }
+  // Four hex digits after "\u".
+  bool Code(unsigned& code) {
+    if (end_ - p_ < 6 || p_[0] != '\\' || p_[1] != 'u') return false;
+    code = 0;
+    for (int i = 2; i < 6; ++i) {
+      const int d = HexDigit(p_[i]);
+      if (d < 0) return false;
+      code = code * 16 + static_cast<unsigned>(d);
+    }
+    p_ += 6;
+    return true;
+  }
+  bool Escape(std::string& out) {
+    if (end_ - p_ < 2) return false;
+    const char c = p_[1];
+    const char* plain = nullptr;
+    switch (c) {
+      case '"': plain = "\""; break;
+      case '\\': plain = "\\"; break;
+      case '/': plain = "/"; break;
+      case 'b': plain = "\b"; break;
+      case 'f': plain = "\f"; break;
+      case 'n': plain = "\n"; break;
+      case 'r': plain = "\r"; break;
+      case 't': plain = "\t"; break;
+      case 'u': break;
+      default: return false;
+    }
+    if (plain != nullptr) {
+      out += *plain;
+      p_ += 2;
+      return true;
+    }
+    unsigned code = 0;
+    if (!Code(code)) return false;
+    if (code >= 0xDC00 && code <= 0xDFFF) return false;
+    if (code >= 0xD800 && code <= 0xDBFF) {
+      unsigned low = 0;
+      if (!Code(low) || low < 0xDC00 || low > 0xDFFF) return false;
+      code = 0x10000 + ((code - 0xD800) << 10) + (low - 0xDC00);
+    }
+    if (code < 0x80) {
+      out += static_cast<char>(code);
+    } else if (code < 0x800) {
+      out += static_cast<char>(0xC0 | (code >> 6));
+      out += static_cast<char>(0x80 | (code & 0x3F));
+    } else if (code < 0x10000) {
+      out += static_cast<char>(0xE0 | (code >> 12));
+      out += static_cast<char>(0x80 | ((code >> 6) & 0x3F));
+      out += static_cast<char>(0x80 | (code & 0x3F));
+    } else {
+      out += static_cast<char>(0xF0 | (code >> 18));
+      out += static_cast<char>(0x80 | ((code >> 12) & 0x3F));
+      out += static_cast<char>(0x80 | ((code >> 6) & 0x3F));
+      out += static_cast<char>(0x80 | (code & 0x3F));
+    }
+    return true;
+  }
+  // One character of two to four bytes, well formed.
+  bool Utf8(std::string& out) {
+    const auto b0 = static_cast<unsigned char>(*p_);
+    int more = 0;
+    unsigned char lo = 0x80, hi = 0xBF;
+    if (b0 >= 0xC2 && b0 <= 0xDF) {
+      more = 1;
+    } else if (b0 >= 0xE0 && b0 <= 0xEF) {
+      more = 2;
+      if (b0 == 0xE0) lo = 0xA0;
+      if (b0 == 0xED) hi = 0x9F;
+    } else if (b0 >= 0xF0 && b0 <= 0xF4) {
+      more = 3;
+      if (b0 == 0xF0) lo = 0x90;
+      if (b0 == 0xF4) hi = 0x8F;
+    } else {
+      return false;
+    }
+    if (end_ - p_ <= more) return false;
+    for (int i = 1; i <= more; ++i) {
+      const auto b = static_cast<unsigned char>(p_[i]);
+      if (b < lo || b > hi) return false;
+      lo = 0x80;
+      hi = 0xBF;
+    }
+    out.append(p_, static_cast<std::size_t>(more + 1));
+    p_ += more + 1;
+    return true;
+  }
+
+  // A text, a whole number, true, false or null, after blanks. Numbers with
+  // a fraction or an exponent, and those too long to be sure of, are left to
+  // the library.
+  bool Scalar(FieldValue& v) {
+    SkipBlank();
+    if (p_ >= end_) return false;
+    const char c = *p_;
+    if (c == '"') return Text(v);
+    if (c == 't') return Word("true", v, FieldValue::kBool, true);
+    if (c == 'f') return Word("false", v, FieldValue::kBool, false);
+    if (c == 'n') return Word("null", v, FieldValue::kNull, false);
+    const bool negative = c == '-';
+    const char* q = p_ + (negative ? 1 : 0);
+    const char* const digits = q;
+    std::uint64_t n = 0;
+    while (q < end_ && *q >= '0' && *q <= '9') n = n * 10 + static_cast<std::uint64_t>(*q++ - '0');
+    const std::ptrdiff_t count = q - digits;
+    if (count == 0 || count > 18 || (count > 1 && *digits == '0')) return false;
+    if (q < end_ && (*q == '.' || *q == 'e' || *q == 'E')) return false;
+    p_ = q;
+    v = FieldValue{};
+    if (negative) {
+      v.kind = FieldValue::kInteger;
+      v.integer = -static_cast<std::int64_t>(n);
+    } else {
+      v.kind = FieldValue::kUnsigned;
+      v.whole = n;
+    }
+    return true;
+  }
+  bool Word(std::string_view word, FieldValue& v, FieldValue::Kind kind, bool on) {
+    if (static_cast<std::size_t>(end_ - p_) < word.size() || std::string_view(p_, word.size()) != word) return false;
+    p_ += word.size();
+    v = FieldValue{};
+    v.kind = kind;
+    v.on = on;
+    return true;
+  }
+
+  const char* p_;
+  const char* const end_;
+  FieldTable& table_;
+  std::string scratch_;
 };
 
 // Fills the tables from the "fields" object; a name that is missing reads as
@@ -382,6 +733,8 @@ class ImportVisitor {
   // The first name of the object, in the order of names, that the walk never
   // asked for.
   std::string FirstUnknownName() const {
+    // Every member the walk asked for, or given again later: nothing to look for.
+    if (found_ + fields_.superseded == fields_.entries.size()) return {};
     std::string_view first;
     bool any = false;
     for (const FieldEntry& e : fields_.entries) {
@@ -395,8 +748,9 @@ class ImportVisitor {
 
  private:
   const FieldValue* Find(const FieldName& n) {
-    FieldEntry* e = fields_.Find(n.Format());
+    FieldEntry* e = fields_.Find(names_.Of(n), n.repeat);
     if (e == nullptr) return nullptr;
+    if (!e->found) ++found_;
     e->found = true;
     return &e->value;
   }
@@ -461,6 +815,8 @@ class ImportVisitor {
   }
 
   FieldTable& fields_;
+  NameCache names_;
+  std::size_t found_ = 0;  // members asked for
 };
 
 // Line and column (from 1) of a byte offset of a text.
@@ -480,8 +836,12 @@ std::string LineAndColumn(const std::string& text, std::size_t offset) {
 }  // namespace
 
 std::string ExportJson() {
+  SizeVisitor size;
+  WalkScenario(size);
   std::string out;
-  out.reserve(1 << 20);
+  // A member takes about 20 characters besides its text; texts with
+  // characters to escape grow, and then the text grows once more.
+  out.reserve(256 + 24 * size.fields + size.textBytes + size.textBytes / 8);
   out += "{\n  \"format\": \"";
   out += kFormatName;
   out += "\",\n  \"fileVersion\": ";
@@ -499,12 +859,19 @@ bool ImportJson(const std::string& text, std::string* why) {
     return false;
   };
   FieldTable fields;
-  // About one member to every forty characters of an export.
-  fields.entries.reserve(text.size() / 40);
-  fields.chars.reserve(text.size() / 2);
+  fields.Reserve(text.size());
   ScenarioSax sax(fields);
+  std::string format;
+  // An export's own text is read straight; anything else by the library.
+  const bool narrow = NarrowReader(text, fields).Read(format);
+  if (narrow) {
+    sax.topIsObject = sax.formatIsText = sax.hasFields = sax.fieldsIsObject = true;
+    sax.format = std::move(format);
+  } else {
+    fields.Clear();
+  }
   try {
-    json::sax_parse(text, &sax);
+    if (!narrow) json::sax_parse(text, &sax);
   } catch (const json::parse_error& e) {
     // The library's own words after its position, without its tag.
     std::string detail = e.what();
@@ -518,6 +885,7 @@ bool ImportJson(const std::string& text, std::string* why) {
     return fail(std::string("\"format\" is not \"") + kFormatName + "\"");
   }
   if (!sax.hasFields || !sax.fieldsIsObject) return fail("no \"fields\" object");
+  fields.Index();
   ImportVisitor v(fields);
   WalkScenario(v);
   if (!v.error.empty()) return fail(v.error);

@@ -123,32 +123,44 @@ std::string FieldName::Format() const {
 }
 
 void FieldName::AppendTo(std::string& s) const {
-  s += RecName(rec);
+  AppendRecordTo(s);
+  AppendFieldTo(s);
+}
+
+namespace {
+void AppendNumber(std::string& s, int v) {
   char buf[16];
-  auto number = [&s, &buf](int v) {
-    const auto end = std::to_chars(buf, buf + sizeof(buf), v).ptr;
-    s.append(buf, static_cast<std::size_t>(end - buf));
-  };
+  const auto end = std::to_chars(buf, buf + sizeof(buf), v).ptr;
+  s.append(buf, static_cast<std::size_t>(end - buf));
+}
+}  // namespace
+
+void FieldName::AppendRecordTo(std::string& s) const {
+  s += RecName(rec);
   if (rec == FieldRec::kEngineVar) {
     s += '[';
-    number(i);
+    AppendNumber(s, i);
     s += ']';
     return;
   }
   if (rec != FieldRec::kGame) {
     s += '[';
-    number(i);
+    AppendNumber(s, i);
     if (TwoIndices(rec)) {
       s += ',';
-      number(j);
+      AppendNumber(s, j);
     }
     s += ']';
   }
   s += '.';
+}
+
+void FieldName::AppendFieldTo(std::string& s) const {
+  if (rec == FieldRec::kEngineVar) return;
   s += field;
   if (k != 0) {
     s += '[';
-    number(k);
+    AppendNumber(s, k);
     s += ']';
   }
 }

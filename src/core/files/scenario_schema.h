@@ -55,6 +55,13 @@ struct FieldName {
   std::string Format() const;
   // Appends the same name to a text.
   void AppendTo(std::string& out) const;
+  // The name in two parts, the record ("Hex[3,4].", "Game.", "EngineVar[533]")
+  // and the field in it ("Unit[2]"; nothing for an engine variable), so that
+  // a writer of many fields of one record can keep the record's part.
+  void AppendRecordTo(std::string& out) const;
+  void AppendFieldTo(std::string& out) const;
+  // Whether both name fields of the same record.
+  bool SameRecord(const FieldName& other) const { return rec == other.rec && i == other.i && j == other.j; }
 };
 
 // What a reader does with a number before it stores it. A file may hold
