@@ -1,12 +1,18 @@
 #include "ai/ai_state.h"
 
 #include "files/field_registry.h"
+#include "model/cleared_with_tables.h"
 
 namespace mf {
 
 AIRec AI;
 
 void ResetAIState() { AI = AIRec{}; }
+
+namespace {
+// A clear of the game clears this too.
+const bool kClearedWithTables = ClearedWithTables([] { ResetAIState(); });
+}  // namespace
 
 namespace {
 

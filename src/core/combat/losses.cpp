@@ -4,6 +4,7 @@
 
 #include "engine/news.h"
 #include "model/arith.h"
+#include "model/cleared_with_tables.h"
 #include "model/rnd.h"
 #include "model/type_lookup.h"
 #include "orders/transport.h"
@@ -12,6 +13,11 @@ namespace mf {
 
 Long AttackerLost[kLossClasses + 1] = {};
 Long DefenderLost[kLossClasses + 1] = {};
+
+namespace {
+// A clear of the game clears this too.
+const bool kClearedWithTables = ClearedWithTables(ZeroBattleTallies);
+}  // namespace
 
 void ZeroBattleTallies() {
   for (int i = 0; i <= kLossClasses; ++i) {

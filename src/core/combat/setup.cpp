@@ -8,6 +8,7 @@
 #include "combat/command_figures.h"
 #include "combat/frontage.h"
 #include "model/arith.h"
+#include "model/cleared_with_tables.h"
 #include "model/hex_geometry.h"
 #include "model/rnd.h"
 #include "model/type_lookup.h"
@@ -17,6 +18,11 @@
 namespace mf {
 
 BattleState TheBattle;
+
+namespace {
+// A clear of the game clears this too.
+const bool kClearedWithTables = ClearedWithTables([] { TheBattle = BattleState{}; });
+}  // namespace
 
 namespace {
 

@@ -6,6 +6,7 @@
 
 #include "model/arith.h"
 #include "model/capacity.h"
+#include "model/cleared_with_tables.h"
 #include "model/game_state.h"
 #include "model/hex_geometry.h"
 #include "orders/order_buttons.h"
@@ -14,6 +15,7 @@
 namespace mf {
 
 PaintToolsRec PaintTools;
+
 
 namespace {
 
@@ -386,6 +388,15 @@ void ForgetPaintStrokes() {
   h.undo.clear();
   h.redo.clear();
 }
+
+namespace {
+// A clear of the game clears the tools and the strokes too: strokes of the
+// last game cannot be undone on the next, even on a map of the same size.
+const bool kClearedWithTables = ClearedWithTables([] {
+  PaintTools = PaintToolsRec{};
+  ForgetPaintStrokes();
+});
+}  // namespace
 
 std::string BrushLabel() {
   if (UI.Order.RegimePaint == kNeutralBrush) return "Owner: neutral";

@@ -14,7 +14,6 @@ namespace {
 
 // The editor stops at ten regimes: the sight tables hold ten.
 constexpr int kEditorRegimes = 10;
-constexpr int kHexColours = 15;
 constexpr int kPortraitSets = 6;
 constexpr long kFirstOverrule = 811;
 constexpr long kLastOverrule = 830;

@@ -7,6 +7,7 @@
 
 #include "model/arith.h"
 #include "model/bounds.h"
+#include "model/cleared_with_tables.h"
 #include "model/game_state.h"
 #include "model/hex_geometry.h"
 #include "orders/flood.h"
@@ -135,6 +136,10 @@ FloodScratch& Scratch() {
   static FloodScratch scratch;
   return scratch;
 }
+
+// A clear of the game forgets the last flood: its box says nothing of the
+// zeroed hexes.
+const bool kClearedWithTables = ClearedWithTables([] { Scratch() = FloodScratch{}; });
 
 // The regime of the unit in stack slot 1 of a hex; 0 when the slot is empty.
 Long SlotOneRegime(const HexRec& h) {

@@ -337,7 +337,7 @@ void WalkScenario(V& v) {
     v.Text(n("TextColor"), re.TextColor);
     v.Long(n("UnitSerial"), re.UnitSerial);
     v.Text(n("FormationName"), re.FormationName);
-    v.Long(n("HexSprite"), re.HexSprite);
+    v.Long(n("HexSprite"), re.HexSprite, Check::Index(0, kHexColours));
     v.Text(n("Email"), re.Email);
     v.Long(n("OwnPeople"), re.OwnPeople, Check::Index(0, kPeopleCap));
     for (int f = 1; f <= kResearchCap; ++f) v.Long(n("Research", f), re.Research[f], Check::Index(0, 1));

@@ -34,6 +34,7 @@ constexpr int kBookVarCount = 200;    // Game.BookVarCount is always this
 constexpr int kEngineVarCap = 1000;
 constexpr int kAttackerCap = 40;
 constexpr int kRouteSteps = 15;       // movement floods run at most 15 waves
+constexpr int kHexColours = 15;       // regime colours of the hex and counter sprites
 
 // The version every file is written with; newer files are refused.
 constexpr int kFileVersion = 111;

@@ -1,5 +1,8 @@
 #include "model/game_state.h"
 
+#include <vector>
+
+#include "model/cleared_with_tables.h"
 #include "platform/platform.h"
 
 namespace mf {
@@ -22,7 +25,14 @@ UIRec UI;
 
 namespace {
 Long g_scratch = 0;
+
+// The resets registered by the owners of the other globals of one game; made
+// on first use, since owners register while the program starts.
+std::vector<void (*)()>& GameGlobalResets() {
+  static std::vector<void (*)()> resets;
+  return resets;
 }
+}  // namespace
 
 Long& UnitSlotType(int u, int cls) {
   if (u < 0 || u > kUnitCap) u = 0;
@@ -66,6 +76,12 @@ void ZeroAllTables() {
   for (auto& v : EngineVar) v.Value = 0;  // descriptions and categories are fixed labels
   Game = GameRec{};
   UI = UIRec{};
+  for (void (*reset)() : GameGlobalResets()) reset();
+}
+
+bool ClearedWithTables(void (*reset)()) {
+  GameGlobalResets().push_back(reset);
+  return true;
 }
 
 int NewUnitNumber() {

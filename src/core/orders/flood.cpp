@@ -1,11 +1,17 @@
 #include "orders/flood.h"
 
 #include "model/bounds.h"
+#include "model/cleared_with_tables.h"
 #include "model/game_state.h"
 
 namespace mf {
 
 int FloodMinX = 0, FloodMinY = 0, FloodMaxX = 0, FloodMaxY = 0;
+
+namespace {
+// A clear of the game clears this too.
+const bool kClearedWithTables = ClearedWithTables([] { FloodMinX = FloodMinY = FloodMaxX = FloodMaxY = 0; });
+}  // namespace
 
 void ClearFlood() {
   const int w = MapW();

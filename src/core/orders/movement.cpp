@@ -37,17 +37,18 @@ int LandStepCost(long land) {
 bool HasRoad(const HexRec& h) { return h.Road == 1; }
 
 // Cost of one step of a land formation u from cur towards n in direction d,
-// in the first wave or later; 999 and above refuses the step.
+// in the first wave or later; 999 and above refuses the step. The rules'
+// extras add up without wrapping, so a huge one refuses the step too.
 int LandStep(int u, int carryPct, double occupyPower, int cx, int cy, HexXY n, int d, int wave) {
   const HexRec& cur = Hex[cx][cy];
   const HexRec& to = Hex[n.x][n.y];
   const UnitRec& unit = Unit[u];
   int c = LandStepCost(to.Land);
   // Vehicles lose time among the trees; foot troops and their guns do not.
-  if (to.Land == kForest && carryPct > 100) c += static_cast<int>(EV(7));
+  if (to.Land == kForest && carryPct > 100) c = AddSat(c, EV(7));
   // Only foot infantry wades through a swamp.
   if (to.Land == kSwamp && (unit.MobQty > 0 || unit.ArtQty > 0 || unit.ArmQty > 0)) c = kOutOfReach;
-  if (cur.River[d] == 1) c += static_cast<int>(EV(8));
+  if (cur.River[d] == 1) c = AddSat(c, EV(8));
   // A road cancels every extra: forest, river and swamp alike.
   if ((HasRoad(cur) && HasRoad(to)) || (HasRoad(cur) && to.Land == kUrban) || (cur.Land == kUrban && HasRoad(to))) c = 1;
   // The SHQ numbered 1 moves at a flat rate, and only that one; where the
@@ -58,7 +59,7 @@ int LandStep(int u, int carryPct, double occupyPower, int cx, int cy, HexXY n, i
   if (HumanRegime() && to.Vis < 1) c = kOutOfReach;
   if (PeaceLand(to.Owner)) c = kOutOfReach;
   if (to.Owner != Game.CurRegime) {
-    c += static_cast<int>(EV(9));
+    c = AddSat(c, EV(9));
     if (to.Unit[1] != 0) c = kOutOfReach;
     // Weak formations enter foreign land only where it is already their own.
     if (occupyPower < static_cast<double>(EV(101))) c = kOutOfReach;

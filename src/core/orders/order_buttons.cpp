@@ -4,12 +4,18 @@
 
 #include "model/arith.h"
 #include "model/bounds.h"
+#include "model/cleared_with_tables.h"
 #include "model/game_state.h"
 #include "model/stack.h"
 
 namespace mf {
 
 ButtonState Buttons;
+
+namespace {
+// A clear of the game clears this too.
+const bool kClearedWithTables = ClearedWithTables([] { Buttons = ButtonState{}; });
+}  // namespace
 
 namespace {
 

@@ -2,6 +2,7 @@
 
 #include "model/arith.h"
 #include "model/bounds.h"
+#include "model/cleared_with_tables.h"
 #include "model/game_state.h"
 #include "model/hex_geometry.h"
 #include "model/type_lookup.h"
@@ -21,6 +22,12 @@ struct SightCell {
   int ring[kFields];
 };
 SightCell g_cells[kMapCap + 1][kMapCap + 1];
+
+// A clear of the game clears this too.
+const bool kClearedWithTables = ClearedWithTables([] {
+  for (auto& column : g_cells)
+    for (SightCell& c : column) c = SightCell{};
+});
 
 int FieldOfTheater(long theater) {
   if (theater == kSeaTheater) return kSeaSight;

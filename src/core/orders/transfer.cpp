@@ -7,6 +7,7 @@
 #include "engine/supply_flood.h"
 #include "model/arith.h"
 #include "model/bounds.h"
+#include "model/cleared_with_tables.h"
 #include "model/counter_pic.h"
 #include "model/game_state.h"
 #include "model/stack.h"
@@ -18,6 +19,11 @@
 namespace mf {
 
 TransferRequestRec TransferRequest;
+
+namespace {
+// A clear of the game clears this too.
+const bool kClearedWithTables = ClearedWithTables([] { TransferRequest = TransferRequestRec{}; });
+}  // namespace
 
 namespace {
 

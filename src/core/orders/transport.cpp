@@ -5,6 +5,7 @@
 #include "combat/air_mission.h"
 #include "combat/attack.h"
 #include "model/arith.h"
+#include "model/cleared_with_tables.h"
 #include "model/game_state.h"
 #include "model/hex_geometry.h"
 #include "model/stack.h"
@@ -22,6 +23,11 @@ namespace mf {
 int AirliftUnit = 0;
 int AirliftDrop = 0;
 int AirSupplyShq = 0;
+
+namespace {
+// A clear of the game clears this too.
+const bool kClearedWithTables = ClearedWithTables([] { AirliftUnit = AirliftDrop = AirSupplyShq = 0; });
+}  // namespace
 
 namespace {
 

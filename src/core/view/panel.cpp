@@ -5,6 +5,7 @@
 #include <algorithm>
 
 #include "model/arith.h"
+#include "model/cleared_with_tables.h"
 #include "model/game_state.h"
 #include "model/hex_geometry.h"
 #include "model/type_lookup.h"
@@ -14,6 +15,11 @@
 namespace mf {
 
 PanelContent Panel;
+
+namespace {
+// A clear of the game clears this too.
+const bool kClearedWithTables = ClearedWithTables([] { Panel = PanelContent{}; });
+}  // namespace
 
 namespace {
 

@@ -213,6 +213,26 @@ TEST_F(ScenarioRobust, ValuesOutsideTheirRangeReadAsTheRulesKeepThem) {
   EXPECT_EQ(Hex[3][3].Land, 1);
 }
 
+// A regime colour names one of the fifteen coloured hexes; any other number
+// reads as none, so that nothing made from it (an SHQ's counter is the
+// colour + 240) can run past the end of a number.
+TEST_F(ScenarioRobust, RegimeColourOutsideTheFifteenReadsAsNone) {
+  SmallScenario();
+  Regime[1].HexSprite = 4;
+  Regime[2].HexSprite = 15;
+  auto lines = SplitLines(SerializeScenario());
+  onlyclear();
+  ParseScenario(JoinLines(lines));
+  EXPECT_EQ(Regime[1].HexSprite, 4);
+  EXPECT_EQ(Regime[2].HexSprite, 15);
+  SetLine(lines, "Regime[1].HexSprite", " 2147483647 ");
+  SetLine(lines, "Regime[2].HexSprite", " 16 ");
+  onlyclear();
+  ParseScenario(JoinLines(lines));
+  EXPECT_EQ(Regime[1].HexSprite, 0);
+  EXPECT_EQ(Regime[2].HexSprite, 0);
+}
+
 TEST_F(ScenarioRobust, IndexFieldsNamingNothingReadAsZero) {
   SmallScenario();
   Game.OfficerCount = 1;

@@ -434,5 +434,27 @@ TEST_F(MoveFloodTest, ADrawnFloodKeepsItsBox) {
   EXPECT_EQ(UI.RedrawRequest, 2);
 }
 
+TEST_F(MoveFloodTest, AHugeStepCostIntoForeignLandStaysOutOfReach) {
+  // A scenario may set grass to any cost; with the extra for foreign land on
+  // top it must not come round to a cheap step.
+  MakeMap(10, 10, 2);
+  Hex[3][3].Owner = red;
+  EngineVar[1].Value = 2147483647;
+  EngineVar[9].Value = 1;
+  EngineVar[101].Value = 0;
+  Infantry(red, 3, 3, "1st", 3);
+  Origin(3, 3);
+  MoveFlood(true);
+  EXPECT_EQ(MarkRows(), (Rows{
+                            "- - - - - -",
+                            "- - - - - -",
+                            "- - 0 - - -",
+                            "- - - - - -",
+                            "- - - - - -",
+                            "- - - - - -",
+                        }));
+  EXPECT_EQ(MarksBeyond(), 0);
+}
+
 }  // namespace
 }  // namespace mf
