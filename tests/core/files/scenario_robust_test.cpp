@@ -221,13 +221,13 @@ TEST_F(ScenarioRobust, RegimeColourOutsideTheFifteenReadsAsNone) {
   Regime[1].HexSprite = 4;
   Regime[2].HexSprite = 15;
   auto lines = SplitLines(SerializeScenario());
-  onlyclear();
+  ClearForLoad();
   ParseScenario(JoinLines(lines));
   EXPECT_EQ(Regime[1].HexSprite, 4);
   EXPECT_EQ(Regime[2].HexSprite, 15);
   SetLine(lines, "Regime[1].HexSprite", " 2147483647 ");
   SetLine(lines, "Regime[2].HexSprite", " 16 ");
-  onlyclear();
+  ClearForLoad();
   ParseScenario(JoinLines(lines));
   EXPECT_EQ(Regime[1].HexSprite, 0);
   EXPECT_EQ(Regime[2].HexSprite, 0);
