@@ -2,6 +2,7 @@
 
 #include <vector>
 
+#include "engine/fog_switches.h"
 #include "model/arith.h"
 #include "model/bounds.h"
 #include "model/game_state.h"
@@ -35,14 +36,12 @@ void StartGameDialog::Prepare() {
 }
 
 void StartGameDialog::SetFog(bool on) {
-  Game.FogOfWar = on ? 1 : 0;
-  if (!on) Game.FogOfExploration = 0;
+  SetFogOfWar(on);
   Mirror();
 }
 
 void StartGameDialog::SetExploration(bool on) {
-  Game.FogOfExploration = on ? 1 : 0;
-  if (on) Game.FogOfWar = 1;
+  SetFogOfExploration(on);
   Mirror();
 }
 

@@ -2,6 +2,7 @@
 
 #include <filesystem>
 
+#include "engine/fog_switches.h"
 #include "model/arith.h"
 #include "model/game_state.h"
 #include "model/rnd.h"
@@ -130,14 +131,12 @@ bool RandomScenarioDialog::SetEmail(int row, const std::string& email, std::stri
 }
 
 void RandomScenarioDialog::SetFog(bool on) {
-  Game.FogOfWar = on ? 1 : 0;
-  if (!on) Game.FogOfExploration = 0;
+  SetFogOfWar(on);
   Mirror();
 }
 
 void RandomScenarioDialog::SetExploration(bool on) {
-  Game.FogOfExploration = on ? 1 : 0;
-  if (on) Game.FogOfWar = 1;
+  SetFogOfExploration(on);
   Mirror();
 }
 
