@@ -29,6 +29,7 @@
 #include "minimap.h"
 #include "paint_panel.h"
 #include "editor/map_paint.h"
+#include "model/bounds.h"
 #include "model/clear_dialog.h"
 #include "model/game_state.h"
 #include "model/hex_geometry.h"
@@ -605,8 +606,7 @@ void MainWindow::SyncWithGame() {
   // The map: scroll bars, then what the game asked to be redrawn.
   // While the computer plays, and until the timer ends its turn, the map is
   // only watched: a press on it would give orders to the computer's units.
-  const bool computerToMove = UI.EditMode == 0 && Game.Turn > 0 && ValidRegime(static_cast<int>(Game.CurRegime)) &&
-                              Regime[Game.CurRegime].AI > 0;
+  const bool computerToMove = UI.EditMode == 0 && Game.Turn > 0 && mf::ComputerToMove();
   map_->SetInteractive(!UI.BusyPointer && !computerToMove);
   map_->SyncFromGame();
   const bool redraw = UI.RedrawRequest > 0;
@@ -650,9 +650,8 @@ void MainWindow::SyncWithGame() {
   // speed. Queued behind what is pending, so the window still paints and
   // moves between two turns. A person's turn begins on the timer's tick.
   const int next = Game.CurRegime >= Game.RegimeCount ? 1 : static_cast<int>(Game.CurRegime) + 1;
-  const bool computerWaiting = Game.Turn > 0 && UI.EditMode != 1 && ValidRegime(Game.CurRegime) &&
-                               Regime[Game.CurRegime].AI > 0 && !UI.BusyPointer && ValidRegime(next) &&
-                               Regime[next].AI > 0;
+  const bool computerWaiting =
+      Game.Turn > 0 && UI.EditMode != 1 && mf::ComputerToMove() && !UI.BusyPointer && mf::RunByComputer(next);
   if (computerWaiting && !tickQueued_ && !quitAfterTurn_) {
     tickQueued_ = true;
     QTimer::singleShot(0, this, [this] {

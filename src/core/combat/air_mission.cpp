@@ -5,6 +5,7 @@
 #include "combat/losses.h"
 #include "engine/news.h"
 #include "model/arith.h"
+#include "model/bounds.h"
 #include "model/game_state.h"
 #include "model/hex_geometry.h"
 #include "model/rnd.h"
@@ -464,8 +465,7 @@ void doInterdict() {
   b = BattleState{};
   b.tx = f.tx;
   b.ty = f.ty;
-  const bool computer = ValidRegime(static_cast<int>(Game.CurRegime)) && Regime[Game.CurRegime].AI > 0;
-  b.shown = !(computer && Game.ShowAIMoves == 0);
+  b.shown = !(ComputerToMove() && Game.ShowAIMoves == 0);
   b.delay = b.shown ? 200 : 0;
   f.delay = b.delay;
   ZeroBattleTallies();

@@ -5,6 +5,7 @@
 #include "combat/losses.h"
 #include "engine/news.h"
 #include "model/arith.h"
+#include "model/bounds.h"
 #include "model/game_state.h"
 #include "model/hex_geometry.h"
 #include "model/rnd.h"
@@ -51,8 +52,7 @@ void doAttack() {
   b.landing = UI.Order.LandingOrder == 1;
   b.tx = static_cast<int>(UI.OrdX);
   b.ty = static_cast<int>(UI.OrdY);
-  const bool computer = ValidRegime(static_cast<int>(Game.CurRegime)) && Regime[Game.CurRegime].AI > 0;
-  b.shown = !(computer && Game.ShowAIMoves == 0);
+  b.shown = !(ComputerToMove() && Game.ShowAIMoves == 0);
   b.delay = b.shown ? 50 : 0;
   ZeroBattleTallies();
   OpenBattleWindow(b.shown);

@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "model/bounds.h"
 #include "model/game_state.h"
 
 namespace mf {
@@ -20,7 +21,7 @@ void Tell(BattleWindowChange change) {
 // battle then goes by without waiting for OK.
 bool EveryRegimeComputerRun() {
   for (int r = 1; r <= Game.RegimeCount && r <= kRegimeCap; ++r)
-    if (Regime[r].AI <= 0) return false;
+    if (!RunByComputer(r)) return false;
   return true;
 }
 

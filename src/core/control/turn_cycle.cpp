@@ -267,7 +267,7 @@ void NextTurn() {
   UI.ResumeTurn = false;
   Plat().YieldEvents();
 
-  const bool human = !(Regime[r].AI > 0);
+  const bool human = !RunByComputer(r);
   if (human) {
     // 4. A human first reads his report; nothing of his turn is done before.
     UI.MapShown = false;
@@ -460,7 +460,7 @@ void TimerTick() {
   }
   // 2. A finished computer turn ends here; while the driver runs the pointer
   // is busy and the tick leaves it alone.
-  if (Game.Turn > 0 && ValidRegime(Game.CurRegime) && Regime[Game.CurRegime].AI > 0 && !UI.BusyPointer) {
+  if (Game.Turn > 0 && ComputerToMove() && !UI.BusyPointer) {
     EndCurrentTurn();
   }
   // 3. and 4. An event asked to end the campaign or to go on to its next scenario.

@@ -72,8 +72,7 @@ bool PeaceTestPasses(const EventRec& ev) {
 
 bool ComputerTestPasses(const EventRec& ev) {
   if (ev.IfAI <= 0) return true;
-  const int r = RegimeOf(ev.IfAI);
-  return r != 0 && Regime[r].AI > 0;
+  return RunByComputer(RegimeOf(ev.IfAI));
 }
 
 bool BookTestPasses(const EventRec& ev) {
@@ -287,8 +286,7 @@ bool TakeEffect(int e) {
       return true;
     case kEventChoice: {
       // The computer answers at once; a person answers in the dialog.
-      const int r = RegimeOf(ev.ShowReg1);
-      if (ev.ShowReg1 > 0 && r != 0 && Regime[r].AI > 0) ApplyChoice(e, static_cast<int>(ev.Data[30]));
+      if (ev.ShowReg1 > 0 && RunByComputer(RegimeOf(ev.ShowReg1))) ApplyChoice(e, static_cast<int>(ev.Data[30]));
       return true;
     }
     case kEventDiplomacy: {

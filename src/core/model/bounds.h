@@ -6,7 +6,6 @@
 
 #include <algorithm>
 
-#include "model/bounds.h"
 #include "model/capacity.h"
 #include "model/game_state.h"
 
@@ -27,6 +26,13 @@ inline int LastUnit() { return Held(Game.UnitCount, kUnitCap); }
 
 // The regime whose turn it is, 0 when the turn names no regime of the table.
 inline int CurrentRegime() { return ValidRegime(Game.CurRegime) ? static_cast<int>(Game.CurRegime) : 0; }
+
+// Whether the computer plays regime r; a number that names no regime of the
+// table is nobody's, so no computer plays it.
+inline bool RunByComputer(Long r) { return ValidRegime(r) && Regime[r].AI > 0; }
+
+// Whether the regime whose turn it is is played by the computer.
+inline bool ComputerToMove() { return RunByComputer(Game.CurRegime); }
 
 // How many goods an SHQ's stock holds side by side (engine variable 616).
 inline int StockWidth() { return Held(EV(616), kStockCap); }

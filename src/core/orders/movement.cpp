@@ -20,7 +20,6 @@ constexpr int kMaxWaves = kRouteSteps;  // 15: also the length of Hex.Route
 
 bool OnMap(HexXY n) { return n.x > 0 && n.y > 0; }
 
-bool HumanRegime() { return Regime[CurrentRegime()].AI <= 0; }
 // True when regime `other` is at peace with the current regime.
 // Land of a regime the mover is at peace with is closed to it; its own never is.
 bool PeaceLand(long owner) {
@@ -56,7 +55,7 @@ int LandStep(int u, int carryPct, double occupyPower, int cx, int cy, HexXY n, i
   if (c < kOutOfReach && unit.Shq == 1) c = 1;
   if (Full(to)) c = kOutOfReach;
   // A human cannot walk into a hex he does not see now; the computer can.
-  if (HumanRegime() && to.Vis < 1) c = kOutOfReach;
+  if (!ComputerToMove() && to.Vis < 1) c = kOutOfReach;
   if (PeaceLand(to.Owner)) c = kOutOfReach;
   if (to.Owner != Game.CurRegime) {
     c = AddSat(c, EV(9));
@@ -78,7 +77,7 @@ int SeaStep(HexXY n) {
   if (Full(to)) c = kOutOfReach;
   if (to.Unit[1] != 0 && Unit[to.Unit[1]].Regime != Game.CurRegime) c = kOutOfReach;
   if (to.Land == kUrban && to.Owner != Game.CurRegime) c = kOutOfReach;
-  if (HumanRegime() && to.Vis < 1) c = kOutOfReach;
+  if (!ComputerToMove() && to.Vis < 1) c = kOutOfReach;
   return c;
 }
 
@@ -323,7 +322,7 @@ int MoveUnit(bool /*silent*/) {
   }
   // Moving onto its own hex leaves everything where it is.
   if (tx == ox && ty == oy) return kMoveDone;
-  const bool human = HumanRegime();
+  const bool human = !ComputerToMove();
   if (!human) UI.Order.SelOrderMove = 0;
 
   // Into the target's first free slot; the origin's stack closes up.

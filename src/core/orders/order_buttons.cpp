@@ -42,7 +42,6 @@ const OrderButtonInfo kButtons[kOrderButtonCount] = {
 const char* const kCancelCaption = "CANCEL ORDER";
 
 bool Editing() { return UI.EditMode == 1; }
-bool ComputerTurn() { return CurrentRegime() != 0 && Regime[CurrentRegime()].AI > 0; }
 
 // The formation in a stack slot of a hex, 0 for none or bad data.
 int UnitAt(long x, long y, long slot) {
@@ -141,7 +140,7 @@ void RefreshButtons() {
   // "Next turn" is always there in a game; during the computer's turn it
   // tells how far the computer has got.
   Buttons.nextTurn.enabled = Game.Turn > 0;
-  if (ComputerTurn()) {
+  if (ComputerToMove()) {
     Buttons.nextTurn.caption = Game.AIAnalysis != kFalse ? "AI PHASE " + NumText(Buttons.aiPhase) + "/" +
                                                                NumText(Buttons.aiPhases)
                                                          : std::string();
@@ -211,7 +210,7 @@ void Helper() {
     line = "You are attempting to entrench a border of the selected hex. Click on a neighbour to select border.";
   } else if (Editing()) {
     line = "You are in the editing mode. If you want to play this scenario select start in the menu.";
-  } else if (ComputerTurn()) {
+  } else if (ComputerToMove()) {
     line = "The AI for " + Regime[CurrentRegime()].Name + " is doing it's turn.";
   } else {
     line = Regime[CurrentRegime()].Name + ", please give your orders. Press Next Turn Button if you are finished.";

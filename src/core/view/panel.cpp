@@ -5,6 +5,7 @@
 #include <algorithm>
 
 #include "model/arith.h"
+#include "model/bounds.h"
 #include "model/cleared_with_tables.h"
 #include "model/game_state.h"
 #include "model/hex_geometry.h"
@@ -74,7 +75,7 @@ bool MapHiddenFromPlayer() { return !UI.MapShown && UI.EditMode != 1; }
 // A computer regime's own figures are not for the human players at the
 // screen; its label is the driver's, with " (AI)".
 bool ComputerAtWork() {
-  return Game.Turn > 0 && UI.EditMode != 1 && ValidRegime(Game.CurRegime) && Regime[Game.CurRegime].AI > 0;
+  return Game.Turn > 0 && UI.EditMode != 1 && ComputerToMove();
 }
 
 void FillStatus() {
@@ -158,8 +159,7 @@ void FillChain(int u, bool full) {
   }
   Panel.thqName = full ? thq : kHidden;
   Panel.shqName = full ? shq : kHidden;
-  const Long r = un.Regime;
-  Panel.playerName = (ValidRegime(r) && Regime[r].AI > 0) ? "AI" : "HUMAN";
+  Panel.playerName = RunByComputer(un.Regime) ? "AI" : "HUMAN";
 }
 
 void FillTroops(int u, bool full) {

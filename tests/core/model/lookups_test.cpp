@@ -51,6 +51,27 @@ TEST_F(LookupsTest, TheRegimeToMoveIsZeroWhenTheTurnNamesNoRegime) {
   EXPECT_EQ(CurrentRegime(), 0);
 }
 
+TEST_F(LookupsTest, OnlyARegimeOfTheTableWithItsComputerFlagIsRunByTheComputer) {
+  Regime[2].AI = 1;
+  Regime[3].AI = 0;
+  EXPECT_TRUE(RunByComputer(2));
+  EXPECT_FALSE(RunByComputer(3));
+  EXPECT_FALSE(RunByComputer(0));
+  EXPECT_FALSE(RunByComputer(kRegimeCap + 1));
+  EXPECT_FALSE(RunByComputer(-1));
+}
+
+TEST_F(LookupsTest, TheComputerIsToMoveOnlyWhenTheRegimeToMoveIsItsOwn) {
+  Regime[2].AI = 1;
+  Regime[3].AI = 0;
+  Game.CurRegime = 2;
+  EXPECT_TRUE(ComputerToMove());
+  Game.CurRegime = 3;
+  EXPECT_FALSE(ComputerToMove());
+  Game.CurRegime = kRegimeCap + 1;  // a turn that names no regime
+  EXPECT_FALSE(ComputerToMove());
+}
+
 TEST_F(LookupsTest, StockWidthFollowsItsEngineVariableInsideTheTable) {
   EngineVar[616].Value = 40;
   EXPECT_EQ(StockWidth(), 40);
