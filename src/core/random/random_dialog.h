@@ -55,7 +55,8 @@ class RandomScenarioDialog : public StartChoices {
   std::string landText = "50";
   int regimes = 4;               // the option button 1..10
   std::string overrideText = "0";
-  // The fog, e-mail, password and production bonus switches are StartChoices'.
+  // The switches of fog, play by e-mail, passwords and the computer's
+  // production bonus are StartChoices'.
   bool allied = false;
   bool realStart = false;
   RegimeRow rows[kRandomRows + 1];  // 1-based; rows above the chosen number of regimes are hidden
@@ -73,7 +74,8 @@ class RandomScenarioDialog : public StartChoices {
   // One of the ten option buttons; rows above it are hidden.
   bool SetRegimes(int n, std::string* why);
   // "Human": Regime.AI 0 when set, 1 when cleared; a scenario that forbids
-  // the computer (engine variable 701) says so and keeps the regime human.
+  // the computer (engine variable 701 at any value but 0) says so and keeps
+  // the regime human.
   bool SetHuman(int row, bool human, std::string* why) override;
   // The address is kept when shorter than 40 characters.
   bool SetEmail(int row, const std::string& email, std::string* why) override;
