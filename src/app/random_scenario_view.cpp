@@ -19,6 +19,7 @@
 
 #include "dialog_views.h"
 #include "random/random_dialog.h"
+#include "regime_rows_view.h"
 
 namespace mf::app {
 namespace {
@@ -62,20 +63,8 @@ void ShowRandomScenario(mf::HumbleDialog& humble, QWidget* parent) {
 
   // One row per regime: name, "Human", e-mail.
   auto* grid = new QGridLayout();
-  QLabel* names[mf::kRandomRows + 1] = {};
-  QCheckBox* humans[mf::kRandomRows + 1] = {};
-  QLineEdit* emails[mf::kRandomRows + 1] = {};
-  for (int r = 1; r <= mf::kRandomRows; ++r) {
-    names[r] = new QLabel(&window);
-    humans[r] = new QCheckBox(D::kHumanLabel, &window);
-    humans[r]->setObjectName(QString("human%1").arg(r));
-    emails[r] = new QLineEdit(&window);
-    emails[r]->setObjectName(QString("email%1").arg(r));
-    emails[r]->setMaxLength(D::kEmailLimit - 1);
-    grid->addWidget(names[r], r, 0);
-    grid->addWidget(humans[r], r, 1);
-    grid->addWidget(emails[r], r, 2);
-  }
+  RegimeRowsView regimeRows(&window, grid, mf::kRandomRows, D::kHumanLabel, D::kEmailLimit - 1);
+  RegimeRowsView* rowsView = &regimeRows;
   layout->addLayout(grid);
 
   // The options, in their three groups.
@@ -127,19 +116,7 @@ void ShowRandomScenario(mf::HumbleDialog& humble, QWidget* parent) {
     allied->setChecked(dialog->allied);
     realStart->setChecked(dialog->realStart);
     counts[dialog->regimes]->setChecked(true);
-    for (int r = 1; r <= mf::kRandomRows; ++r) {
-      const mf::RandomScenarioRow& row = dialog->rows[r];
-      const QSignalBlocker bh(humans[r]);
-      names[r]->setVisible(row.shown);
-      humans[r]->setVisible(row.shown);
-      emails[r]->setVisible(row.shown);
-      names[r]->setText(Q(row.name));
-      humans[r]->setChecked(row.human);
-      if (emails[r]->text() != Q(row.email)) {
-        const QSignalBlocker be(emails[r]);
-        emails[r]->setText(Q(row.email));
-      }
-    }
+    rowsView->Show(dialog->rows);
   };
   auto box = [&window, refresh](QCheckBox* b, void (D::*set)(bool), D* d) {
     QObject::connect(b, &QCheckBox::toggled, &window, [=](bool on) {
@@ -162,17 +139,7 @@ void ShowRandomScenario(mf::HumbleDialog& humble, QWidget* parent) {
     dialog->SetRegimes(n, &why);
     refresh();
   });
-  for (int r = 1; r <= mf::kRandomRows; ++r) {
-    QObject::connect(humans[r], &QCheckBox::toggled, &window, [=](bool on) {
-      std::string why;
-      dialog->SetHuman(r, on, &why);
-      refresh();
-    });
-    QObject::connect(emails[r], &QLineEdit::textEdited, &window, [=](const QString& t) {
-      std::string why;
-      dialog->SetEmail(r, t.toStdString(), &why);
-    });
-  }
+  regimeRows.ConnectTo(&window, dialog, refresh);
   QObject::connect(start, &QPushButton::clicked, &window, [dialog, &window] {
     std::string why;
     // A refusal has shown its message; the dialog stays for the player to mend.

@@ -18,6 +18,7 @@
 #include "dialog_keys.h"
 #include "dialog_views.h"
 #include "engine/start_game_dialog.h"
+#include "regime_rows_view.h"
 
 namespace mf::app {
 namespace {
@@ -65,19 +66,8 @@ void ShowStartGame(mf::HumbleDialog& humble, QWidget* parent) {
   grid->addWidget(new QLabel(Q(dialog->regimeColumn), &window), 0, 0);
   grid->addWidget(new QLabel(Q(dialog->playerColumn), &window), 0, 1);
   grid->addWidget(new QLabel(Q(dialog->emailColumn), &window), 0, 2);
-  QLabel* names[mf::kStartRows + 1] = {};
-  QCheckBox* humans[mf::kStartRows + 1] = {};
-  QLineEdit* emails[mf::kStartRows + 1] = {};
-  for (int r = 1; r <= mf::kStartRows; ++r) {
-    names[r] = new QLabel(&window);
-    humans[r] = new QCheckBox(Q(dialog->humanLabel), &window);
-    humans[r]->setObjectName(QString("human%1").arg(r));
-    emails[r] = new QLineEdit(&window);
-    emails[r]->setObjectName(QString("email%1").arg(r));
-    grid->addWidget(names[r], r, 0);
-    grid->addWidget(humans[r], r, 1);
-    grid->addWidget(emails[r], r, 2);
-  }
+  RegimeRowsView regimeRows(&window, grid, mf::kStartRows, Q(dialog->humanLabel), 0);
+  RegimeRowsView* rowsView = &regimeRows;
   layout->addLayout(grid);
 
   auto* buttons = new QHBoxLayout();
@@ -100,19 +90,7 @@ void ShowStartGame(mf::HumbleDialog& humble, QWidget* parent) {
     pbem->setChecked(dialog->pbem);
     passwords->setChecked(dialog->passwords);
     aiBonus->setChecked(dialog->aiBonus);
-    for (int r = 1; r <= mf::kStartRows; ++r) {
-      const mf::StartGameRow& row = dialog->rows[r];
-      const QSignalBlocker bh(humans[r]);
-      names[r]->setVisible(row.shown);
-      humans[r]->setVisible(row.shown);
-      emails[r]->setVisible(row.shown);
-      names[r]->setText(Q(row.name));
-      humans[r]->setChecked(row.human);
-      if (emails[r]->text() != Q(row.email)) {
-        const QSignalBlocker be(emails[r]);
-        emails[r]->setText(Q(row.email));
-      }
-    }
+    rowsView->Show(dialog->rows);
   };
   QObject::connect(fog, &QCheckBox::toggled, &window, [=](bool on) {
     dialog->SetFog(on);
@@ -134,17 +112,7 @@ void ShowStartGame(mf::HumbleDialog& humble, QWidget* parent) {
     dialog->SetAIBonus(on);
     refresh();
   });
-  for (int r = 1; r <= mf::kStartRows; ++r) {
-    QObject::connect(humans[r], &QCheckBox::toggled, &window, [=](bool on) {
-      std::string why;
-      dialog->SetHuman(r, on, &why);
-      refresh();
-    });
-    QObject::connect(emails[r], &QLineEdit::textEdited, &window, [=](const QString& t) {
-      std::string why;
-      dialog->SetEmail(r, t.toStdString(), &why);
-    });
-  }
+  regimeRows.ConnectTo(&window, dialog, refresh);
   QObject::connect(start, &QPushButton::clicked, &window, [dialog, &window] {
     std::string why;
     // A refusal has shown its message; the dialog stays for the player to mend.

@@ -16,14 +16,7 @@ void StartGameDialog::Mirror() {
   pbem = Game.PBEM == 1;
   passwords = Game.UsePasswords == 1;
   aiBonus = Game.AIProdBonus == 1;
-  const int inUse = Held(Game.RegimeCount, kStartRows);
-  for (int r = 1; r <= kStartRows; ++r) {
-    StartGameRow& row = rows[r];
-    row.shown = r <= inUse;
-    row.name = row.shown ? Regime[r].Name : std::string();
-    row.human = row.shown ? Regime[r].AI == 0 : true;
-    row.email = row.shown ? Regime[r].Email : std::string();
-  }
+  MirrorRegimeRows(rows, kStartRows, Held(Game.RegimeCount, kStartRows));
 }
 
 void StartGameDialog::Prepare() {
@@ -61,26 +54,13 @@ void StartGameDialog::SetAIBonus(bool on) {
 }
 
 bool StartGameDialog::SetHuman(int row, bool human, std::string* why) {
-  if (row < 1 || row > Held(Game.RegimeCount, kStartRows)) {
-    *why = "there is no row for regime " + std::to_string(row);
-    return false;
-  }
-  if (!human && EV(701) == 1) {
-    Plat().ShowMessage("The AI is not allowed to play in this scenario.", "");
-    Regime[row].AI = 0;
-  } else {
-    Regime[row].AI = human ? 0 : 1;
-  }
+  if (!ChooseHuman(row, Held(Game.RegimeCount, kStartRows), human, ComputerBan::kAtOne, why)) return false;
   Mirror();
   return true;
 }
 
 bool StartGameDialog::SetEmail(int row, const std::string& email, std::string* why) {
-  if (row < 1 || row > Held(Game.RegimeCount, kStartRows)) {
-    *why = "there is no row for regime " + std::to_string(row);
-    return false;
-  }
-  Regime[row].Email = email;
+  if (!ChooseEmail(row, Held(Game.RegimeCount, kStartRows), email, 0, why)) return false;
   Mirror();
   return true;
 }

@@ -5,6 +5,7 @@
 
 #include <string>
 
+#include "engine/start_rows.h"
 #include "model/capacity.h"
 #include "platform/platform.h"
 
@@ -12,13 +13,6 @@ namespace mf {
 
 // Rows the dialog has: one per regime, up to the real regime limit.
 constexpr int kStartRows = kSightRegimes;
-
-struct StartGameRow {
-  bool shown = false;  // rows above Game.RegimeCount are hidden
-  std::string name;
-  bool human = true;   // the "Human" choice; off means the computer plays it
-  std::string email;
-};
 
 class StartGameDialog : public HumbleDialog {
  public:
@@ -46,7 +40,7 @@ class StartGameDialog : public HumbleDialog {
   bool pbem = false;
   bool passwords = false;
   bool aiBonus = false;
-  StartGameRow rows[kStartRows + 1];  // 1-based
+  RegimeRow rows[kStartRows + 1];  // 1-based; rows above Game.RegimeCount are hidden
 
   // ---- State --------------------------------------------------------------
   bool open = false;

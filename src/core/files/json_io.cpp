@@ -332,7 +332,7 @@ class FieldTable {
 // Reads a scenario's JSON in one pass without building the document: the
 // members of the top object that matter ("format" and "fields") and the
 // members of "fields". Anything else is checked by the parser and passed
-// over. Errors of the text are the parser's own, thrown as it throws them.
+// over. Errors of the text are the parser's own, kept as it tells them.
 class ScenarioSax {
  public:
   explicit ScenarioSax(FieldTable& table) : table_(table) {}
@@ -391,10 +391,20 @@ class ScenarioSax {
     else if (depth_ == 2 && inFields_) member_ = val;
     return true;
   }
+  // The parser stops at the first error of the text: a syntax error, or a
+  // number too large for any number (1e999). Both are kept here and told as
+  // the text's error; neither may leave the reader as an exception.
   template <class Exception>
-  bool parse_error(std::size_t, const std::string&, const Exception& ex) {
-    throw ex;
+  bool parse_error(std::size_t position, const std::string&, const Exception& ex) {
+    failed = true;
+    failedAt = position;
+    failedWhat = ex.what();
+    return false;
   }
+
+  bool failed = false;
+  std::size_t failedAt = 0;  // from 1, the byte after the last one read
+  std::string failedWhat;
 
  private:
   // A value that is no object or list.
@@ -870,15 +880,20 @@ bool ImportJson(const std::string& text, std::string* why) {
   } else {
     fields.Clear();
   }
-  try {
-    if (!narrow) json::sax_parse(text, &sax);
-  } catch (const json::parse_error& e) {
-    // The library's own words after its position, without its tag.
-    std::string detail = e.what();
-    const std::size_t at = detail.find(": ", detail.find("parse error"));
-    detail = at == std::string::npos ? std::string("syntax error") : detail.substr(at + 2);
-    // e.byte counts from 1 and names the byte after the last one read.
-    return fail("not valid JSON: " + LineAndColumn(text, e.byte > 0 ? e.byte - 1 : 0) + ": " + detail);
+  if (!narrow && !json::sax_parse(text, &sax) && sax.failed) {
+    // The library's own words, without its tag and, for a syntax error, its
+    // own position, which is told below as line and column.
+    const std::string& what = sax.failedWhat;
+    std::string detail = "syntax error";
+    const std::size_t syntax = what.find("parse error");
+    const std::size_t tagEnd = what.find("] ");
+    if (syntax != std::string::npos) {
+      const std::size_t colon = what.find(": ", syntax);
+      if (colon != std::string::npos) detail = what.substr(colon + 2);
+    } else if (tagEnd != std::string::npos) {
+      detail = what.substr(tagEnd + 2);
+    }
+    return fail("not valid JSON: " + LineAndColumn(text, sax.failedAt > 0 ? sax.failedAt - 1 : 0) + ": " + detail);
   }
   if (!sax.topIsObject) return fail("not a JSON object");
   if (!sax.formatIsText || sax.format != kFormatName) {

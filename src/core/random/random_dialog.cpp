@@ -78,13 +78,7 @@ void RandomScenarioDialog::Mirror() {
   pbem = Game.PBEM == 1;
   passwords = Game.UsePasswords == 1;
   aiBonus = Game.AIProdBonus == 1;
-  for (int r = 1; r <= kRandomRows; ++r) {
-    RandomScenarioRow& row = rows[r];
-    row.shown = r <= regimes;
-    row.name = Regime[r].Name;
-    row.human = Regime[r].AI == 0;
-    row.email = Regime[r].Email;
-  }
+  MirrorRegimeRows(rows, kRandomRows, regimes);
 }
 
 void RandomScenarioDialog::Prepare() {
@@ -106,26 +100,13 @@ bool RandomScenarioDialog::SetRegimes(int n, std::string* why) {
 }
 
 bool RandomScenarioDialog::SetHuman(int row, bool human, std::string* why) {
-  if (row < 1 || row > regimes) {
-    *why = "there is no row for regime " + std::to_string(row);
-    return false;
-  }
-  if (!human && EV(701) != 0) {
-    Plat().ShowMessage("The AI is not allowed to play in this scenario.", "");
-    Regime[row].AI = 0;
-  } else {
-    Regime[row].AI = human ? 0 : 1;
-  }
+  if (!ChooseHuman(row, regimes, human, ComputerBan::kUnlessZero, why)) return false;
   Mirror();
   return true;
 }
 
 bool RandomScenarioDialog::SetEmail(int row, const std::string& email, std::string* why) {
-  if (row < 1 || row > regimes) {
-    *why = "there is no row for regime " + std::to_string(row);
-    return false;
-  }
-  if (Len(email) < static_cast<std::size_t>(kEmailLimit)) Regime[row].Email = email;
+  if (!ChooseEmail(row, regimes, email, kEmailLimit, why)) return false;
   Mirror();
   return true;
 }

@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "engine/start_rows.h"
 #include "model/capacity.h"
 #include "platform/platform.h"
 #include "platform/scripted_platform.h"
@@ -21,13 +22,6 @@ constexpr const char* kRandomBaseFile = "2PL_Two_Rivers.mf1";
 // political points and "Bataljon" formations. Game.RegimeCount becomes 10;
 // regime 1 is played by a human, the others by the computer.
 void MakeRandomRegimes();
-
-struct RandomScenarioRow {
-  bool shown = false;   // rows above the chosen number of regimes are hidden
-  std::string name;
-  bool human = false;   // "Human" checked: Regime.AI is 0
-  std::string email;
-};
 
 class RandomScenarioDialog : public HumbleDialog {
  public:
@@ -68,7 +62,7 @@ class RandomScenarioDialog : public HumbleDialog {
   bool aiBonus = false;
   bool allied = false;
   bool realStart = false;
-  RandomScenarioRow rows[kRandomRows + 1];  // 1-based
+  RegimeRow rows[kRandomRows + 1];  // 1-based; rows above the chosen number of regimes are hidden
 
   // ---- State --------------------------------------------------------------
   bool open = false;
