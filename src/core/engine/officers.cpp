@@ -388,7 +388,7 @@ bool OfficerPoolDialog::Act(const std::string& action, const std::string& value,
   return false;
 }
 
-void doPool() {
+void OpenOfficerPoolDialog() {
   const bool editing = UI.EditMode == 1;
   if (editing) {
     // The editor has no regime to move: the pool is that of the selected

@@ -75,7 +75,7 @@ bool BuyResearch(int regime, int field, bool editing) {
   return true;
 }
 
-void doRes() {
+void OpenResearchDialog() {
   const bool editing = UI.EditMode == 1;
   if (editing) {
     const int u = SelectedUnit();

@@ -10,7 +10,7 @@ namespace mf {
 // Opens the Research dialog for Game.CurRegime. In the editor the regime is
 // first taken from the selected formation, the editing buttons are shown,
 // and closing leaves Game.CurRegime at 0 again.
-void doRes();
+void OpenResearchDialog();
 
 // True when `regime` holds research field `field` (Regime.Research above 0).
 // A field or regime outside the tables is held by nobody.

@@ -226,10 +226,10 @@ TEST_F(StatusReportTest, TheClassWordsOfEveryTheater) {
 }
 
 TEST_F(StatusReportTest, TheInfoDialogShowsItsLinesAsAReport) {
-  doinfo(rifles);
+  OpenTypeInfoDialog(rifles);
   EXPECT_EQ(Reports(), (Lines{"Rifles (100)", "INFANTRY", "Weight = 1", "Movement Cap = 3", "Supply Need = 10"}));
   platform.Clear();
-  doinfo(Game.TypeCount + 1);  // no such type: nothing opens
+  OpenTypeInfoDialog(Game.TypeCount + 1);  // no such type: nothing opens
   EXPECT_TRUE(platform.Events().empty());
 }
 
