@@ -22,25 +22,9 @@ constexpr int kStepY[kHexSides + 1] = {0, -1, -1, 0, 1, 1, 0};
 // it serves end at five hexes.
 constexpr int kOwnerDepth = 5;
 constexpr int kNoPath = 999;
-
-// One level of the owner-respecting search: from (x, y), owned by `owner`,
-// at `depth` steps from the start. Paths no shorter than the best found so
-// far cannot lower it and are not followed.
-void OwnerWalk(int x, int y, int owner, int depth, int x2, int y2, int& best) {
-  if (depth >= kOwnerDepth || depth + 1 >= best) return;
-  for (int dir = 1; dir <= kHexSides; ++dir) {
-    const HexXY n = Neighbour(x, y, dir);
-    if (n.x < 1 || n.y < 1) continue;
-    const int nextOwner = Hex[n.x][n.y].Owner;
-    // Neutral ground is always entered; owned ground only from ground of the same owner.
-    if (nextOwner != 0 && nextOwner != owner) continue;
-    if (n.x == x2 && n.y == y2) {
-      best = depth + 1;
-      return;  // every other path from here is at least as long
-    }
-    OwnerWalk(n.x, n.y, nextOwner, depth + 1, x2, y2, best);
-  }
-}
+// Every hex the search can reach lies within kOwnerDepth rows and columns of
+// the start.
+constexpr int kOwnerSpan = 2 * kOwnerDepth + 1;
 
 }  // namespace
 
@@ -92,9 +76,35 @@ int Distance(int x1, int y1, int x2, int y2) {
 int OwnerDistance(int x1, int y1, int x2, int y2) {
   if (x1 == x2 && y1 == y2) return 0;
   if (x1 < 1 || y1 < 1 || x1 > kMapCap || y1 > kMapCap) return kNoPath;
-  int best = kNoPath;
-  OwnerWalk(x1, y1, Hex[x1][y1].Owner, 0, x2, y2, best);
-  return best;
+  // Whether a step may be taken depends only on the two hexes it joins, so
+  // the fewest steps are found ring by ring from the start: every hex is
+  // reached first by one of its shortest paths and never needs a second look.
+  bool seen[kOwnerSpan][kOwnerSpan] = {};
+  HexXY ring[kOwnerSpan * kOwnerSpan];
+  int ringEnd = 0;
+  ring[ringEnd++] = {x1, y1};
+  seen[kOwnerDepth][kOwnerDepth] = true;
+  for (int depth = 0, ringBegin = 0; depth < kOwnerDepth; ++depth) {
+    const int nextBegin = ringEnd;
+    for (int i = ringBegin; i < nextBegin; ++i) {
+      const HexXY h = ring[i];
+      const Long owner = Hex[h.x][h.y].Owner;
+      for (int dir = 1; dir <= kHexSides; ++dir) {
+        const HexXY n = Neighbour(h.x, h.y, dir);
+        if (n.x < 1 || n.y < 1) continue;
+        const Long nextOwner = Hex[n.x][n.y].Owner;
+        // Neutral ground is always entered; owned ground only from ground of the same owner.
+        if (nextOwner != 0 && nextOwner != owner) continue;
+        if (n.x == x2 && n.y == y2) return depth + 1;
+        bool& s = seen[n.x - x1 + kOwnerDepth][n.y - y1 + kOwnerDepth];
+        if (s) continue;
+        s = true;
+        ring[ringEnd++] = n;
+      }
+    }
+    ringBegin = nextBegin;
+  }
+  return kNoPath;
 }
 
 PixelXY HexToPixel(int x, int y, int scrollX, int scrollY) {

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <cstdlib>
+#include <random>
 
 #include "model/hex_geometry.h"
 #include "support/core_test.h"
@@ -253,6 +254,81 @@ TEST_F(HexGeometryTest, NeutralGroundIsEnteredFromAnyOwner) {
 TEST_F(HexGeometryTest, OwnerDistanceFromOffTheMapFindsNothing) {
   EXPECT_EQ(OwnerDistance(0, 5, 1, 5), 999);
   EXPECT_EQ(OwnerDistance(0, 0, 0, 0), 0);
+}
+
+TEST_F(HexGeometryTest, OwnerDistanceTakesTheOnlyGapWithinFiveSteps) {
+  WallOfColumn4(2);
+  Hex[3][5].Owner = 1;
+  // The only way past the wall from (3,5) to (5,5) within five steps: down
+  // column 3 to (3,7), east through the gap at (4,7), north-east to (5,6)
+  // and north to (5,5).
+  Hex[4][7].Owner = 0;
+  EXPECT_EQ(OwnerDistance(3, 5, 5, 5), 5);
+  EXPECT_EQ(OwnerDistance(3, 5, 4, 7), 3);
+  // One row further south the way round is seven steps.
+  Hex[4][7].Owner = 2;
+  Hex[4][8].Owner = 0;
+  EXPECT_EQ(OwnerDistance(3, 5, 5, 5), 999);
+  EXPECT_EQ(OwnerDistance(3, 5, 4, 8), 3);
+}
+
+// The search as it was first written: every path of up to five steps,
+// depth first, cut off where it can no longer beat the best found. Kept as
+// the reference the ring-by-ring search must agree with.
+void ReferenceOwnerWalk(int x, int y, Long owner, int depth, int x2, int y2, int& best) {
+  if (depth >= 5 || depth + 1 >= best) return;
+  for (int dir = 1; dir <= 6; ++dir) {
+    const HexXY n = Neighbour(x, y, dir);
+    if (n.x < 1 || n.y < 1) continue;
+    const Long nextOwner = Hex[n.x][n.y].Owner;
+    if (nextOwner != 0 && nextOwner != owner) continue;
+    if (n.x == x2 && n.y == y2) {
+      best = depth + 1;
+      return;
+    }
+    ReferenceOwnerWalk(n.x, n.y, nextOwner, depth + 1, x2, y2, best);
+  }
+}
+
+int ReferenceOwnerDistance(int x1, int y1, int x2, int y2) {
+  if (x1 == x2 && y1 == y2) return 0;
+  if (x1 < 1 || y1 < 1 || x1 > kMapCap || y1 > kMapCap) return 999;
+  int best = 999;
+  ReferenceOwnerWalk(x1, y1, Hex[x1][y1].Owner, 0, x2, y2, best);
+  return best;
+}
+
+TEST_F(HexGeometryTest, OwnerDistanceAgreesWithTheFullSearchOnRandomOwnedMaps) {
+  std::mt19937 rng(20261125);
+  long compared = 0, found = 0, walled = 0;
+  for (int map = 0; map < 30; ++map) {
+    const int w = 1 + static_cast<int>(rng() % 11);
+    const int h = 1 + static_cast<int>(rng() % 11);
+    world::NewMap(w, h);
+    // From nearly all neutral to nearly all owned, by up to three regimes.
+    const unsigned ownedPct = rng() % 101;
+    const unsigned regimes = 1 + rng() % 3;
+    for (int x = 1; x <= w; ++x)
+      for (int y = 1; y <= h; ++y)
+        Hex[x][y].Owner = (rng() % 100 < ownedPct) ? static_cast<Long>(1 + rng() % regimes) : 0;
+    // Every pair, with a ring of hexes just off the map on each side.
+    for (int x1 = 0; x1 <= w + 1; ++x1)
+      for (int y1 = 0; y1 <= h + 1; ++y1)
+        for (int x2 = 0; x2 <= w + 1; ++x2)
+          for (int y2 = 0; y2 <= h + 1; ++y2) {
+            const int want = ReferenceOwnerDistance(x1, y1, x2, y2);
+            ASSERT_EQ(OwnerDistance(x1, y1, x2, y2), want)
+                << "map " << map << " (" << w << " x " << h << ") from " << x1 << "," << y1 << " to " << x2 << ","
+                << y2;
+            ++compared;
+            if (want >= 1 && want <= 5) ++found;
+            if (want == 999) ++walled;
+          }
+  }
+  // The maps gave both answers plenty of times.
+  EXPECT_GT(found, 10000);
+  EXPECT_GT(walled, 10000);
+  EXPECT_GT(compared, 100000);
 }
 
 // ---- Pixels -----------------------------------------------------------------
