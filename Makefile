@@ -42,6 +42,9 @@ bench: build
 CCACHE := $(shell command -v ccache 2>/dev/null)
 # All targets, or some: make fuzz FUZZ_TARGETS="fuzz_json_import fuzz_script_runner"
 FUZZ_TARGETS ?=
+# libFuzzer's seed: empty for a new one each run (told in the output), a
+# number to run again as a logged run went (CI gives 1).
+FUZZ_SEED ?=
 
 $(FUZZ_BUILD)/CMakeCache.txt:
 	CXX=clang++ CC=clang cmake -S . -B $(FUZZ_BUILD) -DCMAKE_BUILD_TYPE=RelWithDebInfo -DMF_FUZZ=ON \
@@ -53,7 +56,7 @@ fuzz-build:
 	cmake --build $(FUZZ_BUILD) -j$(JOBS) --target fuzz_targets
 
 fuzz: fuzz-build
-	bash tests/fuzz/run.sh $(FUZZ_BUILD) $(FUZZ_SECONDS) $(FUZZ_TARGETS)
+	FUZZ_SEED=$(FUZZ_SEED) bash tests/fuzz/run.sh $(FUZZ_BUILD) $(FUZZ_SECONDS) $(FUZZ_TARGETS)
 
 clean:
 	rm -rf $(BUILD) $(ASAN_BUILD) $(FUZZ_BUILD)

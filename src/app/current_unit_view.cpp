@@ -99,11 +99,7 @@ void ShowCurrentUnit(mf::HumbleDialog& humble, QWidget* parent) {
     }
     if (!dialog->IsOpen()) window.accept();
   };
-  QObject::connect(types, &QListWidget::currentRowChanged, &window, [dialog, refresh](int row) {
-    std::string why;
-    dialog->PickType(row + 1, &why);
-    refresh();
-  });
+  OnRowPicked(types, &window, refresh, [dialog](int row, std::string* why) { dialog->PickType(row + 1, why); });
   OnPress(setClass, &window, refresh, [dialog, qty] { dialog->SetClassButton(qty->text().toStdString()); });
   OnPress(copy, &window, refresh, [dialog] { dialog->CopyFromButton(); });
   OnPress(stock, &window, refresh, [dialog] { dialog->StockButton(); });

@@ -169,16 +169,8 @@ void ShowRegimes(mf::HumbleDialog& humble, QWidget* parent) {
     dialog->SetAI(on);
     refresh();
   });
-  QObject::connect(regimes, &QListWidget::currentRowChanged, &window, [dialog, refresh](int row) {
-    std::string why;
-    dialog->Select(row + 1, &why);
-    refresh();
-  });
-  QObject::connect(peoples, &QListWidget::currentRowChanged, &window, [dialog, refresh](int row) {
-    std::string why;
-    dialog->SelectPeople(row + 1, &why);
-    refresh();
-  });
+  OnRowPicked(regimes, &window, refresh, [dialog](int row, std::string* why) { dialog->Select(row + 1, why); });
+  OnRowPicked(peoples, &window, refresh, [dialog](int row, std::string* why) { dialog->SelectPeople(row + 1, why); });
   QObject::connect(first, &QListWidget::itemChanged, &window, [dialog, first](QListWidgetItem* item) {
     dialog->SetFirstName(first->row(item) + 1, item->text().toStdString());
   });

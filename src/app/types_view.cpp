@@ -175,11 +175,9 @@ void ShowTypes(mf::HumbleDialog& humble, QWidget* parent) {
     dialog->SetFilter(t.toStdString());
     refresh();
   });
-  QObject::connect(list, &QListWidget::currentRowChanged, &window, [dialog, refresh](int row) {
-    if (row < 0 || row >= static_cast<int>(dialog->typeOfRow.size())) return;
-    std::string why;
-    dialog->Select(dialog->typeOfRow[static_cast<std::size_t>(row)], &why);
-    refresh();
+  OnRowPicked(list, &window, refresh, [dialog](int row, std::string* why) {
+    if (row >= 0 && row < static_cast<int>(dialog->typeOfRow.size()))
+      dialog->Select(dialog->typeOfRow[static_cast<std::size_t>(row)], why);
   });
   QObject::connect(living, &QListWidget::itemClicked, &window, [dialog, refresh, living](QListWidgetItem* item) {
     dialog->ToggleLiving(living->row(item) + 1);

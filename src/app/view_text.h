@@ -62,4 +62,18 @@ void OnEdited(QLineEdit* edit, QObject* context, Refresh refresh, Action action)
   });
 }
 
+// A row made current in `list` (a click or an arrow key) hands its index to
+// `action(row, &why)`, which picks that entry in the dialog; then `refresh`
+// shows what the dialog picked. A refusal needs no word: the list shows only
+// what the dialog holds. FillList sets the current row without a signal, so
+// a refresh never picks again.
+template <class Action, class Refresh>
+void OnRowPicked(QListWidget* list, QObject* context, Refresh refresh, Action action) {
+  QObject::connect(list, &QListWidget::currentRowChanged, context, [action, refresh](int row) {
+    std::string why;
+    action(row, &why);
+    refresh();
+  });
+}
+
 }  // namespace mf::app

@@ -1,10 +1,6 @@
 // Watching the computer play: without fog of war the map stays on screen
 // through the computer's turn, centred on what it does, and takes no press;
 // with fog nothing of its turn is shown.
-#include <QApplication>
-#include <QElapsedTimer>
-#include <QThread>
-
 #include "app_fixture.h"
 #include "control/turn_cycle.h"
 #include "map_widget.h"
@@ -15,35 +11,26 @@
 namespace mf::app::test {
 namespace {
 
-namespace world = mf::test::world;
-
 class AIWatchTest : public AppTest {
  protected:
   // Red (a person) holds the west of a 30 x 10 map up to column 12, Blue
   // (the computer) the east; Blue's rifles stand three hexes behind its
   // line, where the computer wants them forward.
   void MakeWorld(long fog) {
-    world::NewMap(30, 10);
-    red = world::AddRegime("Red");
-    blue = world::AddRegime("Blue");
-    Regime[blue].AI = 1;
-    for (int x = 1; x <= 30; ++x)
-      for (int y = 1; y <= 10; ++y) Hex[x][y].Owner = x <= 12 ? red : blue;
-    Hex[2][5].Land = kUrban;
-    Hex[2][5].Pop = 400;
-    Hex[28][5].Land = kUrban;
-    Hex[28][5].Pop = 400;
-    const int rifles = world::AddType("Rifles", kLandTheater, 1);
-    Type[rifles].Attr[kSoftAttack] = 10;
-    Type[rifles].Attr[kSoftDefense] = 10;
-    Type[rifles].Attr[kHitPoints] = 40;
-    Type[rifles].Attr[kMovementCap] = 3;
-    Type[rifles].Attr[kWeight] = 1;
-    world::AddShq(red, 2, 5, 1, "Red Command");
-    world::AddShq(blue, 28, 5, 1, "Blue Command");
-    redUnit = world::AddUnit(red, 4, 5, "Red Rifles", rifles, 20);
-    blueUnit = world::AddUnit(blue, 16, 5, "Blue Rifles", rifles, 200);
-    Game.GameEndPop = 100000;
+    WatchedGame g;
+    g.width = 30;
+    g.border = 12;
+    g.blueTown = 28;
+    g.blueAt = 16;
+    g.blueMen = 200;
+    g.hitPoints = 40;
+    MakeWatchedGame(&g);
+    red = g.red;
+    blue = g.blue;
+    redUnit = g.redUnit;
+    blueUnit = g.blueUnit;
+    Type[g.rifles].Attr[kSoftDefense] = 10;
+    Type[g.rifles].Attr[kWeight] = 1;
     // The scroll ranges of this map, as a load works them out.
     mf::LayOutMapWindow();
     Game.FogOfWar = fog;
@@ -84,15 +71,7 @@ TEST_F(AIWatchTest, WithoutFogTheMapIsWatchedAndTakesNoPress) {
   PressMap(at);
   EXPECT_EQ(UI.SelX, 0);
   // The timer hands the turn back to Red, and the map takes his presses again.
-  window->timer().start();
-  QElapsedTimer waited;
-  waited.start();
-  while (Game.CurRegime != red && waited.elapsed() < 10000) {
-    QApplication::processEvents(QEventLoop::AllEvents, 20);
-    QThread::msleep(5);
-  }
-  window->timer().stop();
-  ASSERT_EQ(Game.CurRegime, red);
+  ASSERT_TRUE(RunTimerUntil([this] { return Game.CurRegime == red; }));
   window->SyncWithGame();
   Settle();
   UI.ScrollX = 0;

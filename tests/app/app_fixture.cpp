@@ -12,6 +12,8 @@
 #include "platform/platform.h"
 #include "program.h"
 #include "qt_canvas.h"
+#include "support/core_test.h"
+#include "view_runner.h"
 
 namespace fs = std::filesystem;
 
@@ -51,6 +53,36 @@ std::string AppTest::TempPath(const std::string& name) const { return (fs::path(
 
 void AppTest::Settle() {
   for (int i = 0; i < 3; ++i) QCoreApplication::processEvents();
+}
+
+bool AppTest::RunTimerUntil(const std::function<bool()>& done) {
+  window->timer().start();
+  const bool came = WaitUntil(done);
+  window->timer().stop();
+  return came;
+}
+
+void MakeWatchedGame(WatchedGame* g) {
+  namespace world = mf::test::world;
+  world::NewMap(g->width, 10);
+  g->red = world::AddRegime("Red");
+  g->blue = world::AddRegime("Blue");
+  Regime[g->blue].AI = 1;
+  for (int x = 1; x <= g->width; ++x)
+    for (int y = 1; y <= 10; ++y) Hex[x][y].Owner = x <= g->border ? g->red : g->blue;
+  for (int x : {2, g->blueTown}) {
+    Hex[x][5].Land = kUrban;
+    Hex[x][5].Pop = 400;
+  }
+  g->rifles = world::AddType("Rifles", kLandTheater, 1);
+  Type[g->rifles].Attr[kSoftAttack] = 10;
+  Type[g->rifles].Attr[kHitPoints] = g->hitPoints;
+  Type[g->rifles].Attr[kMovementCap] = 3;
+  world::AddShq(g->red, 2, 5, 1, "Red Command");
+  world::AddShq(g->blue, g->blueTown, 5, 1, "Blue Command");
+  g->redUnit = world::AddUnit(g->red, 4, 5, "Red Rifles", g->rifles, 20);
+  g->blueUnit = world::AddUnit(g->blue, g->blueAt, 5, "Blue Rifles", g->rifles, g->blueMen);
+  Game.GameEndPop = 100000;
 }
 
 void AppTest::PressMap(QPoint at, Qt::MouseButton button) {

@@ -8,6 +8,7 @@
 #include "ai/ai_state.h"
 #include "control/computer_game.h"
 #include "app_fixture.h"
+#include "view_runner.h"
 #include "model/game_state.h"
 #include "support/core_test.h"
 
@@ -44,7 +45,7 @@ TEST_F(ComputerTurnsTest, FiveComputerRegimesGoRoundWithoutWaitingForTheTimer) {
   });
   EXPECT_EQ(Game.Turn, 1);
   EXPECT_EQ(Game.CurRegime, 1);
-  for (int i = 0; i < 200 && Game.Turn < 3; ++i) QCoreApplication::processEvents();
+  EXPECT_TRUE(WaitUntil([] { return Game.Turn >= 3; }));
   EXPECT_GE(Game.Turn, 3);
   EXPECT_TRUE(window->isVisible());
 }
@@ -59,7 +60,7 @@ TEST_F(ComputerTurnsTest, APersonsTurnBeginsOnTheTimersTick) {
   });
   // The computer's turn is over, but the window does not hurry the person's
   // New Turn dialog: with the timer stopped nothing moves.
-  for (int i = 0; i < 50; ++i) QCoreApplication::processEvents();
+  LetEventsRun(300);
   EXPECT_EQ(Game.Turn, 1);
   EXPECT_EQ(Game.CurRegime, 1);
 }

@@ -7,8 +7,6 @@
 #include <QAction>
 #include <QApplication>
 #include <QDialog>
-#include <QElapsedTimer>
-#include <QThread>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
@@ -61,31 +59,20 @@ class HandoverTest : public AppTest {
   // Red in the west, Blue in the east of a 16 x 10 map, each with an SHQ in
   // a town and a formation; Blue's town lies far beyond Red's sight.
   void MakeWorld(bool blueComputer) {
-    world::NewMap(16, 10);
-    red = world::AddRegime("Red");
-    blue = world::AddRegime("Blue");
+    WatchedGame g;  // 16 x 10, Red up to column 8, Blue's town and rifles at 15,5
+    MakeWatchedGame(&g);
+    red = g.red;
+    blue = g.blue;
+    rifles = g.rifles;
+    redUnit = g.redUnit;
+    blueUnit = g.blueUnit;
     Regime[red].HexSprite = 1;
     Regime[blue].HexSprite = 4;
     Regime[red].PP = 17;
     Regime[blue].PP = 93;
     Regime[blue].AI = blueComputer ? 1 : 0;
-    for (int x = 1; x <= 16; ++x)
-      for (int y = 1; y <= 10; ++y) Hex[x][y].Owner = x <= 8 ? red : blue;
-    Hex[2][5].Land = kUrban;
-    Hex[2][5].Pop = 400;
     Hex[2][5].UrbanName = "Redford";
-    Hex[15][5].Land = kUrban;
-    Hex[15][5].Pop = 400;
     Hex[15][5].UrbanName = "Bluehaven";
-    rifles = world::AddType("Rifles", kLandTheater, 1);
-    Type[rifles].Attr[kSoftAttack] = 10;
-    Type[rifles].Attr[kHitPoints] = 20;
-    Type[rifles].Attr[kMovementCap] = 3;
-    world::AddShq(red, 2, 5, 1, "Red Command");
-    world::AddShq(blue, 15, 5, 1, "Blue Command");
-    redUnit = world::AddUnit(red, 4, 5, "Red Rifles", rifles, 20);
-    blueUnit = world::AddUnit(blue, 15, 5, "Blue Rifles", rifles, 20);
-    Game.GameEndPop = 100000;
     Game.FogOfExploration = 1;
     UI.EditMode = 1;
     window->SyncWithGame();
@@ -221,15 +208,7 @@ TEST_F(HandoverTest, AComputerTurnShowsNothingOfTheComputersAndHandsBackAFreshWi
 
   // The timer ends the computer's turn and brings Red his New Turn dialog.
   behind.clear();
-  window->timer().start();
-  QElapsedTimer waited;
-  waited.start();
-  while (Game.CurRegime != red && waited.elapsed() < 10000) {
-    QApplication::processEvents(QEventLoop::AllEvents, 20);
-    QThread::msleep(5);
-  }
-  window->timer().stop();
-  ASSERT_EQ(Game.CurRegime, red);
+  ASSERT_TRUE(RunTimerUntil([this] { return Game.CurRegime == red; }));
   ASSERT_EQ(Game.Turn, 2);
   ASSERT_FALSE(behind.empty());
   EXPECT_EQ(behind.front().regime, "Red");

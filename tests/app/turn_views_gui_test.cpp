@@ -93,11 +93,9 @@ TEST_F(TurnViewsTest, TheTimerKeepsTickingWhileTheNewTurnWindowIsOpen) {
   window->timer().start();
   bool tickedWhileOpen = false;
   RunView(dialog, "newTurnDialog", [&](QDialog* d) {
-    // Look again after a few ticks of the main window's timer.
-    QTimer::singleShot(350, d, [&, d] {
-      tickedWhileOpen = UI.ScrollPending == 0;
-      d->findChild<QPushButton*>("proceed")->click();
-    });
+    // A tick of the main window's timer makes the redraw while the window is up.
+    tickedWhileOpen = WaitUntil([] { return UI.ScrollPending == 0; }, 2000);
+    d->findChild<QPushButton*>("proceed")->click();
   });
   window->timer().stop();
   EXPECT_TRUE(tickedWhileOpen);
@@ -130,6 +128,7 @@ TEST_F(TurnViewsTest, TheStartGameWindowCouplesTheFogBoxesAndStarts) {
     email2->setFocus();
     email2->insert("blue@example.org");
     EXPECT_EQ(Regime[2].Email, "blue@example.org");
+    KeepPicture(d, "start_game.png");
     d->findChild<QPushButton*>("start")->click();
     EXPECT_FALSE(d->isVisible());
   });

@@ -1,6 +1,7 @@
 // What the GUI tests share: running one dialog view and finding its window
 // once it is up, acting in it, keeping a picture of it for a person to look
-// at, and reading the texts the window shows.
+// at, reading the texts the window shows, and waiting for what the window's
+// timer or a queued call brings.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -9,6 +10,7 @@
 #include <QDialog>
 #include <QElapsedTimer>
 #include <QLabel>
+#include <QThread>
 #include <QTimer>
 #include <filesystem>
 #include <functional>
@@ -16,6 +18,25 @@
 #include "dialog_views.h"
 
 namespace mf::app::test {
+
+// Lets the window's events run until `done` holds, for `ms` milliseconds at
+// the most; false when it never came. A test waits this way for what the
+// timer or a queued call brings, never for a fixed number of event rounds or
+// a fixed sleep, which a busy machine can outrun.
+inline bool WaitUntil(const std::function<bool()>& done, int ms = 10000) {
+  QElapsedTimer clock;
+  clock.start();
+  while (!done()) {
+    if (clock.elapsed() >= ms) return false;
+    QApplication::processEvents(QEventLoop::AllEvents, 20);
+    QThread::msleep(5);
+  }
+  return true;
+}
+
+// Lets the window's events run for `ms` milliseconds, for a test that shows
+// nothing happens in that time.
+inline void LetEventsRun(int ms) { WaitUntil([] { return false; }, ms); }
 
 // The visible dialog window with that object name, or nullptr.
 inline QDialog* VisibleDialog(const char* name) {

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "editor/edit_input.h"
+#include "editor/numbered_list.h"
 #include "model/arith.h"
 #include "model/bounds.h"
 #include "model/game_state.h"
@@ -90,11 +91,7 @@ void CurrentUnitDialog::Refill() {
 }
 
 bool CurrentUnitDialog::PickType(int t, std::string* why) {
-  if (t < 1 || t > LastType()) {
-    *why = "there is no type " + std::to_string(t) + " (the list holds 1.." + std::to_string(LastType()) + ")";
-    return false;
-  }
-  pickedType = t;
+  if (!PickEntry(t, LastType(), "type", &pickedType, why)) return false;
   Refill();
   return true;
 }

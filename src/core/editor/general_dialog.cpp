@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "editor/edit_input.h"
+#include "editor/numbered_list.h"
 #include "model/arith.h"
 #include "model/engine_vars.h"
 #include "model/game_state.h"
@@ -241,8 +242,8 @@ void GeneralDialog::SetEventStory(const std::string& text) {
 
 void GeneralDialog::CopyButton() {
   if (event == 0) return;
-  const Long from = ValLong(Plat().InputPrompt("Copy data from which entry?", "", ""));
-  if (!EditorEvent(from) || from == event) return;
+  const int from = AskCopySource("Copy data from which entry?", "", kFirstEvent, kLastEvent, event);
+  if (from == 0) return;
   Event[event] = Event[from];
   Touch();
   Refill();

@@ -4,6 +4,7 @@
 #include <cstdio>
 
 #include "editor/edit_input.h"
+#include "editor/numbered_list.h"
 #include "model/arith.h"
 #include "model/bounds.h"
 #include "model/game_state.h"
@@ -73,21 +74,14 @@ void RegimesDialog::Refill() {
 }
 
 bool RegimesDialog::Select(int r, std::string* why) {
-  if (r < 1 || r > LastRegime()) {
-    *why = "there is no regime " + std::to_string(r) + " (the list holds 1.." + std::to_string(LastRegime()) + ")";
-    return false;
-  }
-  selected = r;
+  if (!PickEntry(r, LastRegime(), "regime", &selected, why)) return false;
   Refill();
   return true;
 }
 
 void RegimesDialog::NewButton() {
-  if (LastRegime() >= kEditorRegimes) {
-    Plat().ShowMessage("To many regimes allready", "");
-    return;
-  }
-  const int r = LastRegime() + 1;
+  const int r = NewEntry(LastRegime(), kEditorRegimes, "To many regimes allready");
+  if (r == 0) return;
   Game.RegimeCount = r;
   Regime[r] = RegimeRec{};
   SetNewRegimeDefaults(r);
@@ -104,16 +98,12 @@ void RegimesDialog::NewButton() {
 }
 
 void RegimesDialog::DeleteButton() {
-  if (LastRegime() == 0) {
-    Plat().ShowMessage("No regimes to delete", "");
-    return;
-  }
-  if (selected != LastRegime()) {
+  const int r = EntryToDelete(LastRegime(), "No regimes to delete");
+  if (r == 0) return;
+  if (selected != r) {
     Plat().ShowMessage("You can only delete the last player for now.    I know !!!!", "");
     return;
   }
-  // Only the last regime goes, so the numbers of the others stay as they are.
-  const int r = LastRegime();
   Regime[r] = RegimeRec{};
   for (int o = 0; o <= kRegimeCap; ++o) {
     Dip[r][o] = DipRec{};
@@ -220,21 +210,14 @@ void RegimesDialog::SetIntro(const std::string& text) {
 }
 
 bool RegimesDialog::SelectPeople(int p, std::string* why) {
-  if (p < 1 || p > LastPeople()) {
-    *why = "there is no people " + std::to_string(p) + " (the list holds 1.." + std::to_string(LastPeople()) + ")";
-    return false;
-  }
-  selectedPeople = p;
+  if (!PickEntry(p, LastPeople(), "people", &selectedPeople, why)) return false;
   Refill();
   return true;
 }
 
 void RegimesDialog::NewPeopleButton() {
-  if (LastPeople() >= kPeopleCap) {
-    Plat().ShowMessage("There can be no more than 20 peoples.", "");
-    return;
-  }
-  const int p = LastPeople() + 1;
+  const int p = NewEntry(LastPeople(), kPeopleCap, "There can be no more than 20 peoples.");
+  if (p == 0) return;
   Game.PeopleCount = p;
   People[p] = PeopleRec{};
   People[p].Name = "People " + NumText(p);

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "editor/edit_input.h"
+#include "editor/numbered_list.h"
 #include "engine/type_info_dialog.h"
 #include "editor/type_rules.h"
 #include "model/arith.h"
@@ -88,11 +89,7 @@ void TypesDialog::Refill() {
 }
 
 bool TypesDialog::Select(int t, std::string* why) {
-  if (!Listed(t)) {
-    *why = "there is no type " + std::to_string(t) + " (the list holds 1.." + std::to_string(LastType()) + ")";
-    return false;
-  }
-  selected = t;
+  if (!PickEntry(t, LastType(), "type", &selected, why)) return false;
   Refill();
   return true;
 }
@@ -103,11 +100,8 @@ void TypesDialog::SetFilter(const std::string& text) {
 }
 
 void TypesDialog::NewButton() {
-  if (LastType() >= kTypeCap) {
-    Plat().ShowMessage("To many types allready", "");
-    return;
-  }
-  const int t = LastType() + 1;
+  const int t = NewEntry(LastType(), kTypeCap, "To many types allready");
+  if (t == 0) return;
   Game.TypeCount = t;
   Type[t] = TypeRec{};
   Type[t].Name = "Type " + NumText(t);
@@ -118,20 +112,17 @@ void TypesDialog::NewButton() {
 }
 
 void TypesDialog::DeleteButton() {
-  if (LastType() == 0) {
-    Plat().ShowMessage("No types to delete", "");
-    return;
-  }
-  // Only the last type goes, so the numbers of the others stay as they are.
-  Type[LastType()] = TypeRec{};
-  Game.TypeCount = LastType() - 1;
+  const int t = EntryToDelete(LastType(), "No types to delete");
+  if (t == 0) return;
+  Type[t] = TypeRec{};
+  Game.TypeCount = t - 1;
   Refill();
 }
 
 void TypesDialog::CopyButton() {
   if (selected == 0) return;
-  const Long from = ValLong(Plat().InputPrompt("Copy which # (think good here, 0=cancel)", "", "0"));
-  if (!Listed(from) || from == selected) return;
+  const int from = AskCopySource("Copy which # (think good here, 0=cancel)", "0", 1, LastType(), selected);
+  if (from == 0) return;
   Type[selected] = Type[from];
   Refill();
 }

@@ -60,6 +60,7 @@ enum Ground : std::uint16_t {
   kHeld = 1 << 7,      // the flooding regime's formation stands in stack slot 1
   kLandCost = 1 << 8,  // the cost table knows its landscape (sea is costed apart)
   kInBox = 1 << 9,     // inside the flood's box: hexes outside it are written but never walked
+  kRouted = 1 << 10,   // the route to the hex has touched the sea or landed (PathSea or PathPortX set)
 };
 // The landscape (1 to 6 when the cost table knows it) sits in the bits from here.
 constexpr int kLandShift = 12;
@@ -68,16 +69,21 @@ constexpr int kLandShift = 12;
 // hex records are large: it works on a compact copy of those fields, its
 // ground read once (once per flood, or once for a run of floods over a map
 // on which nothing moves) and its planes kept beside it until the end.
-// A cell is kept to 16 bytes, so that four share a line of the processor's
-// cache: the waves run over the cells in no order the cache can foresee.
-struct alignas(16) Cell {
+// Nearly every step reads only the ground and the cost of the hex stepped
+// into, and most steps are not taken: those two are kept apart in four bytes
+// a hex, so that the part of the map around a wave stays in the processor's
+// nearest cache. The rest of a hex's route is read and written only when a
+// step is taken or a hex is walked.
+struct Cell {
   std::uint16_t ground = kOffMap;
   Short mark = 0;
+};
+static_assert(sizeof(Cell) == 4);
+struct Route {
   Short wave = 0;  // the reach is held to the hexes of the map, so a wave's number fits
   Short pathLand = 0;
   Short pathSea = 0, pathPortX = 0, pathPortY = 0;
 };
-static_assert(sizeof(Cell) == 16);
 static_assert(kMapCap * kMapCap + 1 <= 32767);
 
 bool IsSea(const Cell& h) { return (h.ground & kSeaHex) != 0; }
@@ -113,6 +119,7 @@ constexpr int kStep[2][kHexSides + 1] = {
 
 struct FloodScratch {
   std::vector<Cell> cells = std::vector<Cell>(kColumn * kColumn);
+  std::vector<Route> routes = std::vector<Route>(kColumn * kColumn);
   // The hexes a wave walks. The rules walk every hex of the box in each
   // wave and expand those that carry the wave's number; only hexes the wave
   // before gave that number can carry it, so the flood keeps them in a
@@ -194,9 +201,9 @@ bool SeaBlocked(const std::vector<Cell>& cells, int cur, int cellN, bool seaAllo
 }
 
 // Carries the route of cur over to n after an accepted step.
-void CarryRoute(const Cell& cur, Cell& n, int nx, int ny) {
-  const bool curSea = IsSea(cur);
-  const bool nSea = IsSea(n);
+void CarryRoute(const Cell& curCell, const Route& cur, Cell& nCell, Route& n, int nx, int ny) {
+  const bool curSea = IsSea(curCell);
+  const bool nSea = IsSea(nCell);
   if (!curSea && !nSea) {
     n.pathLand = cur.pathSea == 0 ? static_cast<Short>(cur.pathLand + 1) : cur.pathLand;
     n.pathSea = cur.pathSea;
@@ -216,7 +223,7 @@ void CarryRoute(const Cell& cur, Cell& n, int nx, int ny) {
     }
   } else if (cur.pathPortX == 0) {
     // Ashore: in an urban hex the route has found a port, elsewhere open shore.
-    if (IsUrban(n)) {
+    if (IsUrban(nCell)) {
       n.pathPortX = static_cast<Short>(nx);
       n.pathPortY = static_cast<Short>(ny);
     } else {
@@ -226,15 +233,17 @@ void CarryRoute(const Cell& cur, Cell& n, int nx, int ny) {
     n.pathLand = cur.pathLand;
     n.pathSea = cur.pathSea;
   }
+  const bool routed = n.pathSea != 0 || n.pathPortX != 0;
+  nCell.ground = static_cast<std::uint16_t>((nCell.ground & ~kRouted) | (routed ? kRouted : 0));
 }
 
 // Whether the step from cur to n with cost c replaces what n holds. The
 // rules are applied in their order; each may overturn the one before.
-bool AcceptStep(const Cell& cur, const Cell& n, long c, long shqRange) {
-  const long mc = cur.mark, mn = n.mark;
+bool AcceptStep(const Cell& curCell, const Route& cur, const Cell& nCell, const Route& n, long c, long shqRange) {
+  const long mc = curCell.mark, mn = nCell.mark;
   const long pc = cur.pathPortX, pn = n.pathPortX;
   const long sc = cur.pathSea, sn = n.pathSea;
-  const bool curSea = IsSea(cur), nSea = IsSea(n);
+  const bool curSea = IsSea(curCell), nSea = IsSea(nCell);
   bool a = mc + c < mn;
   // 1. A landed route always gives way to one that has not landed on open shore.
   if (pc >= 0 && pn == -1) a = true;
@@ -263,7 +272,7 @@ bool AcceptStep(const Cell& cur, const Cell& n, long c, long shqRange) {
 // A hex whose route has neither touched the sea nor landed, and that is not
 // sea itself: between two such hexes the rules of the sea all fall silent
 // and a step is taken exactly when it is cheaper.
-bool Overland(const Cell& h) { return (h.ground & kSeaHex) == 0 && h.pathSea == 0 && h.pathPortX == 0; }
+bool Overland(const Cell& h) { return (h.ground & (kSeaHex | kRouted)) == 0; }
 
 // Sets the box of the flood from (ox, oy) with this reach, reads the ground
 // of what it can touch unless a run has read the whole map already, and
@@ -286,24 +295,63 @@ void StartFlood(FloodScratch& fs, int ox, int oy, int reach, bool readGround) {
     for (int y = fs.loY; y <= fs.hiY; ++y) {
       Cell& c = fs.cells[x * kColumn + y];
       c.mark = kOut;
-      c.wave = kOut;
-      c.pathSea = c.pathLand = c.pathPortX = c.pathPortY = 0;
+      fs.routes[x * kColumn + y] = Route{kOut, 0, 0, 0, 0};
       const bool inBox = columnInBox && y >= fs.minY && y <= fs.maxY;
-      c.ground = static_cast<std::uint16_t>((c.ground & ~kInBox) | (inBox ? kInBox : 0));
+      c.ground = static_cast<std::uint16_t>((c.ground & ~(kInBox | kRouted)) | (inBox ? kInBox : 0));
     }
   }
+}
+
+// The costs and switches of a flood's steps, read once per flood.
+struct StepRules {
+  long cost[8];  // by landscape
+  long ev24, ev27, shqRange;
+  bool seaAllowed;
+};
+
+// A step from cur into n (on the map) by every rule of the land and the sea;
+// c is the step cost carried over from the step before, and the step's own
+// cost is returned to be carried on. A taken step gives n the next wave's
+// number.
+long RuledStep(FloodScratch& fs, const StepRules& rules, int cell, int cellN, std::uint16_t roadTo, Short nextWave,
+               long c) {
+  std::vector<Cell>& cells = fs.cells;
+  Cell& cur = cells[cell];
+  Cell& n = cells[cellN];
+  const Route& curRoute = fs.routes[cell];
+  Route& nRoute = fs.routes[cellN];
+  // 1. Landscape.
+  if (n.ground & kLandCost) c = rules.cost[n.ground >> kLandShift];
+  // 2. Roads, and a road running into a town or out of one.
+  if (n.ground & roadTo) c = rules.ev27;
+  // 3. Taking to sea.
+  if (IsSea(n)) c = SeaBlocked(cells, cell, cellN, rules.seaAllowed) ? kOut : rules.ev24;
+  // 4. Coming ashore costs a sea step whatever the land.
+  if (IsSea(cur) && !IsSea(n)) c = rules.ev24;
+  // 5. A route that has landed does not land again (swamp and mountain excepted).
+  if (IsSea(cur) && (n.ground & kBelowSea) && curRoute.pathPortX != 0) c = kOut;
+  // 6.
+  if (IsSea(cur) && !IsSea(n) && n.mark > 0 && nRoute.pathPortX > 0) c = kOut;
+  // 7. Supply crosses only the regime's own land, and the sea.
+  if (!IsSea(n) && !(n.ground & kOwn)) c = kOut;
+
+  if (!AcceptStep(cur, curRoute, n, nRoute, c, rules.shqRange)) return c;
+  n.mark = ToMark(cur.mark + c);
+  nRoute.wave = nextWave;
+  CarryRoute(cur, curRoute, n, nRoute, cellN / kColumn, cellN % kColumn);
+  if (n.ground & kInBox) fs.next[cellN >> 6] |= std::uint64_t{1} << (cellN & 63);
+  return c;
 }
 
 // The waves of the flood from the origin cell, on cells already gathered
 // and started.
 void Spread(FloodScratch& fs, int origin, bool seaAllowed) {
   std::vector<Cell>& cells = fs.cells;
+  std::vector<Route>& routes = fs.routes;
   const int reach = fs.reach;
-  const long ev24 = EV(24), ev27 = EV(27), shqRange = EV(230);
-  // The cost of a step by landscape.
-  const long cost[8] = {0, EV(21), EV(22), EV(23), 0, EV(25), EV(26), 0};
+  const StepRules rules{{0, EV(21), EV(22), EV(23), 0, EV(25), EV(26), 0}, EV(24), EV(27), EV(230), seaAllowed};
   cells[origin].mark = 0;
-  cells[origin].wave = 1;
+  routes[origin].wave = 1;
   fs.walk.clear();
   fs.walk.push_back(origin);
   std::uint64_t* const next = fs.next.data();
@@ -332,56 +380,45 @@ void Spread(FloodScratch& fs, int origin, bool seaAllowed) {
     const Short nextWave = static_cast<Short>(w + 1);
     for (const int cell : fs.walk) {
       Cell& cur = cells[cell];
-      if (cur.mark > reach || cur.wave != w) continue;
-      const int* step = kStep[cell & 1];
-      const bool curOverland = Overland(cur);
-      const long curMark = cur.mark;
-      const Short curLand = static_cast<Short>(cur.pathLand + 1);
-      const Short curPortY = cur.pathPortY;
+      Route& curRoute = routes[cell];
+      if (cur.mark > reach || curRoute.wave != w) continue;
       // The grounds into which a road carries a step from here.
       const std::uint16_t roadTo = static_cast<std::uint16_t>(((cur.ground & kRoadHex) ? (kRoadHex | kUrbanHex) : 0) |
                                                               ((cur.ground & kUrbanHex) ? kRoadHex : 0));
+      if (!Overland(cur)) {
+        const int* step = kStep[cell & 1];
+        for (int dir = 1; dir <= kHexSides; ++dir) {
+          const int cellN = cell + step[dir];
+          if ((cells[cellN].ground & kOffMap) == 0) c = RuledStep(fs, rules, cell, cellN, roadTo, nextWave, c);
+        }
+        continue;
+      }
+      const long curMark = cur.mark;
+      const Short curLand = static_cast<Short>(curRoute.pathLand + 1);
+      const Short curPortY = curRoute.pathPortY;
+      const int* step = kStep[cell & 1];
       for (int dir = 1; dir <= kHexSides; ++dir) {
         const int cellN = cell + step[dir];
         Cell& n = cells[cellN];
-        if (n.ground & kOffMap) continue;
-        if (curOverland && Overland(n)) {
-          // Overland: landscape, roads, and only the regime's own land; the
-          // step is taken when it is cheaper. Whether it is cheaper is a
-          // toss-up the processor cannot guess, so it is worked out without
-          // a jump and the hex is written either way.
-          c = (n.ground & kLandCost) ? cost[n.ground >> kLandShift] : c;
-          c = (n.ground & roadTo) ? ev27 : c;
-          c = (n.ground & kOwn) ? c : kOut;
-          const long m = curMark + c;
-          const bool take = m < n.mark;
-          n.mark = take ? ToMark(m) : n.mark;
-          n.wave = take ? nextWave : n.wave;
-          n.pathLand = take ? curLand : n.pathLand;
-          n.pathPortY = take ? curPortY : n.pathPortY;
-          next[cellN >> 6] |= static_cast<std::uint64_t>(take && (n.ground & kInBox)) << (cellN & 63);
+        const std::uint16_t g = n.ground;
+        if (g & (kOffMap | kSeaHex | kRouted)) {
+          if ((g & kOffMap) == 0) c = RuledStep(fs, rules, cell, cellN, roadTo, nextWave, c);
           continue;
         }
-        // 1. Landscape.
-        if (n.ground & kLandCost) c = cost[n.ground >> kLandShift];
-        // 2. Roads, and a road running into a town or out of one.
-        if (n.ground & roadTo) c = ev27;
-        // 3. Taking to sea.
-        if (IsSea(n)) c = SeaBlocked(cells, cell, cellN, seaAllowed) ? kOut : ev24;
-        // 4. Coming ashore costs a sea step whatever the land.
-        if (IsSea(cur) && !IsSea(n)) c = ev24;
-        // 5. A route that has landed does not land again (swamp and mountain excepted).
-        if (IsSea(cur) && (n.ground & kBelowSea) && cur.pathPortX != 0) c = kOut;
-        // 6.
-        if (IsSea(cur) && !IsSea(n) && n.mark > 0 && n.pathPortX > 0) c = kOut;
-        // 7. Supply crosses only the regime's own land, and the sea.
-        if (!IsSea(n) && !(n.ground & kOwn)) c = kOut;
-
-        if (!AcceptStep(cur, n, c, shqRange)) continue;
-        n.mark = ToMark(cur.mark + c);
-        n.wave = nextWave;
-        CarryRoute(cur, n, cellN / kColumn, cellN % kColumn);
-        if (n.ground & kInBox) next[cellN >> 6] |= std::uint64_t{1} << (cellN & 63);
+        // Overland: landscape, roads, and only the regime's own land; the
+        // step is taken when it is cheaper.
+        c = (g & kLandCost) ? rules.cost[g >> kLandShift] : c;
+        c = (g & roadTo) ? rules.ev27 : c;
+        c = (g & kOwn) ? c : kOut;
+        const long m = curMark + c;
+        if (m < n.mark) {
+          n.mark = ToMark(m);
+          Route& nRoute = routes[cellN];
+          nRoute.wave = nextWave;
+          nRoute.pathLand = curLand;
+          nRoute.pathPortY = curPortY;
+          if (g & kInBox) next[cellN >> 6] |= std::uint64_t{1} << (cellN & 63);
+        }
       }
     }
     // The next wave's walk: the hexes it was given to, in the order of the walk.
@@ -424,8 +461,8 @@ void WriteBack(const FloodScratch& fs) {
         h.Wave = kOut;
         continue;
       }
-      const Cell& f = fs.cells[x * kColumn + y];
-      h.Mark = f.mark;
+      h.Mark = fs.cells[x * kColumn + y].mark;
+      const Route& f = fs.routes[x * kColumn + y];
       h.Wave = f.wave;
       h.PathSea = f.pathSea;
       h.PathLand = f.pathLand;
@@ -507,8 +544,8 @@ void RunFloodResult(std::vector<FloodHex>& out) {
         out[i] = none;
         continue;
       }
-      const Cell& c = fs.cells[x * kColumn + y];
-      out[i] = FloodHex{c.mark, c.pathSea, c.pathLand, c.pathPortX, c.pathPortY};
+      const Route& c = fs.routes[x * kColumn + y];
+      out[i] = FloodHex{fs.cells[x * kColumn + y].mark, c.pathSea, c.pathLand, c.pathPortX, c.pathPortY};
     }
   }
 }

@@ -20,6 +20,7 @@
 #include <charconv>
 #include <cmath>
 #include <cstdint>
+#include <cstring>
 #include <functional>
 #include <limits>
 #include <nlohmann/json.hpp>
@@ -37,16 +38,18 @@ using nlohmann::json;
 
 constexpr const char* kFormatName = "marrowfield-scenario";
 
-void AppendJsonString(std::string& out, const std::string& s) {
-  bool plain = true;
+// Whether a text goes into JSON as it stands: printable ASCII without
+// quotes or backslashes.
+bool IsPlain(const std::string& s) {
   for (char c : s) {
     const auto b = static_cast<unsigned char>(c);
-    if (b < 0x20 || b >= 0x80 || c == '"' || c == '\\') {
-      plain = false;
-      break;
-    }
+    if (b < 0x20 || b >= 0x80 || c == '"' || c == '\\') return false;
   }
-  if (plain) {
+  return true;
+}
+
+void AppendJsonString(std::string& out, const std::string& s) {
+  if (IsPlain(s)) {
     out += '"';
     out += s;
     out += '"';
@@ -56,31 +59,61 @@ void AppendJsonString(std::string& out, const std::string& s) {
   out += json(s).dump(-1, ' ', false, json::error_handler_t::replace);
 }
 
+// The letters of a field's name ("Unit"; none for an engine variable).
+std::size_t FieldLetters(const FieldName& n) { return n.rec == FieldRec::kEngineVar ? 0 : std::strlen(n.field); }
+
+// Writes the field's part of a name ("Unit[2]") at out, as
+// FieldName::AppendFieldTo spells it, and gives its end. It takes the field's
+// letters and at most 13 more.
+char* WriteFieldPart(const FieldName& n, std::size_t letters, char* out) {
+  std::memcpy(out, n.field, letters);
+  out += letters;
+  if (n.k != 0 && n.rec != FieldRec::kEngineVar) {
+    *out++ = '[';
+    out = std::to_chars(out, out + 11, n.k).ptr;
+    *out++ = ']';
+  }
+  return out;
+}
+
 // Names of fields as the walk meets them. The fields of one record come one
 // after another, so the record's part of the name ("Hex[3,4].") is made once
 // for all of them.
 class NameCache {
  public:
-  void AppendTo(const FieldName& n, std::string& out) {
+  // The record's part of the name.
+  const std::string& RecordOf(const FieldName& n) {
     if (!any_ || !n.SameRecord(last_)) {
       record_.clear();
       n.AppendRecordTo(record_);
       last_ = n;
       any_ = true;
+      copied_ = false;
     }
-    out += record_;
-    n.AppendFieldTo(out);
+    return record_;
   }
-  // The name, valid until the next call.
+  // The name, valid until the next call: the record's part stays in place
+  // and only the field's part is written after it.
   std::string_view Of(const FieldName& n) {
-    name_.clear();
-    AppendTo(n, name_);
-    return name_;
+    const std::size_t letters = FieldLetters(n);
+    const std::string& record = RecordOf(n);
+    const std::size_t room = record.size() + letters + 13;
+    if (name_.size() < room) {
+      name_.resize(2 * room);
+      copied_ = false;
+    }
+    if (!copied_) {
+      std::memcpy(name_.data(), record.data(), record.size());
+      copied_ = true;
+    }
+    char* const end = WriteFieldPart(n, letters, name_.data() + record.size());
+    return std::string_view(name_.data(), static_cast<std::size_t>(end - name_.data()));
   }
 
  private:
   FieldName last_;
   bool any_ = false;
+  bool copied_ = false;  // whether name_ begins with the record's part
   std::string record_;
   std::string name_;
 };
@@ -115,9 +148,12 @@ class SizeVisitor {
   bool Proceed(mf::Long) { return true; }
 };
 
+// Writes the members of "fields" through a buffer of its own: a member is
+// put together there with plain copies, and the buffer goes into the text in
+// large pieces, so that the text is not grown a few characters at a time.
 class ExportVisitor {
  public:
-  explicit ExportVisitor(std::string& out) : out_(out) {}
+  explicit ExportVisitor(std::string& out) : out_(out), buffer_(kBuffer) { p_ = buffer_.data(); }
 
   mf::Long Long(const FieldName& n, mf::Long& ref, Check c = {}) {
     const mf::Long value = SavedValue(n, ref, c);
@@ -131,42 +167,78 @@ class ExportVisitor {
   }
   mf::Long Bool(const FieldName& n, mf::Long& ref) {
     if (Open(n)) {
-      if (ref != 0) out_.append("true", 4);
-      else out_.append("false", 5);
+      if (ref != 0) Put("true", 4);
+      else Put("false", 5);
     }
     return ref != 0 ? kTrue : kFalse;
   }
   void Text(const FieldName& n, std::string& ref) {
-    if (Open(n)) AppendJsonString(out_, ref);
+    if (Open(n)) String(ref);
   }
   void LongText(const FieldName& n, std::string& ref) {
-    if (Open(n)) AppendJsonString(out_, ref);
+    if (Open(n)) String(ref);
   }
   void Assign(const FieldName&, mf::Long&, mf::Long) {}
   bool HeadHasFog(mf::Long) { return true; }
   bool Proceed(mf::Long) { return true; }
 
+  // Puts what the buffer holds into the text.
+  void Flush() {
+    out_.append(buffer_.data(), static_cast<std::size_t>(p_ - buffer_.data()));
+    p_ = buffer_.data();
+  }
+
  private:
-  // Starts a member "name": and says whether to write its value; a repeated
-  // field of the file has its one entry already.
+  static constexpr std::size_t kBuffer = std::size_t{1} << 16;
+  // The most a number takes.
+  static constexpr std::size_t kNumber = 24;
+
+  // Makes room in the buffer for so many characters.
+  void Room(std::size_t size) {
+    if (static_cast<std::size_t>(buffer_.data() + buffer_.size() - p_) >= size) return;
+    Flush();
+    if (buffer_.size() < size) {
+      buffer_.resize(size);
+      p_ = buffer_.data();
+    }
+  }
+  void Put(const char* s, std::size_t size) {
+    std::memcpy(p_, s, size);
+    p_ += size;
+  }
+  // Starts a member "name": and says whether to write its value, with room
+  // for a number after it; a repeated field of the file has its one entry
+  // already. Field names are plain letters, digits and brackets: written as
+  // they are, straight into the text.
   bool Open(const FieldName& n) {
     if (n.repeat) return false;
-    if (first_) out_.append("\n    \"", 6);
-    else out_.append(",\n    \"", 7);
+    const std::string& record = names_.RecordOf(n);
+    const std::size_t letters = FieldLetters(n);
+    Room(7 + record.size() + letters + 13 + 3 + kNumber);
+    if (first_) Put("\n    \"", 6);
+    else Put(",\n    \"", 7);
     first_ = false;
-    // Field names are plain letters, digits and brackets: written as they
-    // are, straight into the text.
-    names_.AppendTo(n, out_);
-    out_.append("\": ", 3);
+    Put(record.data(), record.size());
+    p_ = WriteFieldPart(n, letters, p_);
+    Put("\": ", 3);
     return true;
   }
-  void Number(mf::Long value) {
-    char buf[16];
-    const auto end = std::to_chars(buf, buf + sizeof(buf), value).ptr;
-    out_.append(buf, static_cast<std::size_t>(end - buf));
+  void Number(mf::Long value) { p_ = std::to_chars(p_, p_ + kNumber, value).ptr; }
+  void String(const std::string& s) {
+    if (IsPlain(s)) {
+      Room(s.size() + 2);
+      *p_++ = '"';
+      Put(s.data(), s.size());
+      *p_++ = '"';
+      return;
+    }
+    Flush();
+    AppendJsonString(out_, s);
   }
 
   std::string& out_;
+  std::vector<char> buffer_;
+  char* p_ = nullptr;
   NameCache names_;
   bool first_ = true;
 };
@@ -458,46 +530,130 @@ class ScenarioSax {
 };
 
 
-// Reads the JSON an export writes, and only that, straight from the text: an
-// object of "format" (a text), "fileVersion" (a whole number) and "fields"
-// (an object of texts, whole numbers, true, false and null), in that order,
-// with any white space. The members of "fields" go into the table; names and
-// texts that need no decoding stay where they stand in the text. On anything
-// else, right or wrong, it gives up and the library reads the text instead,
-// so that every other text is read, and every error told, as the library
-// reads and tells it.
-class NarrowReader {
+// Reads JSON as an export writes it, and only that, straight from the text:
+// white space, texts (escapes, surrogate pairs and UTF-8 decoded and checked
+// as the library decodes and checks them), whole numbers, true, false and
+// null. Each reading says false on anything else, right or wrong, and the
+// library is then left to read the whole text, so that every other text is
+// read, and every error told, as the library reads and tells it. Names and
+// texts that need no decoding stay where they stand in the text; the others
+// are decoded into the cursor's own room, a name's and a value's apart, and
+// stay there until the next member is read.
+class JsonCursor {
  public:
-  NarrowReader(const std::string& text, FieldTable& table)
-      : p_(text.data()), end_(text.data() + text.size()), table_(table) {}
+  explicit JsonCursor(const std::string& text)
+      : begin_(text.data()), p_(text.data()), end_(text.data() + text.size()) {}
 
-  bool Read(std::string& format) {
-    std::string_view name;
-    FieldValue v;
-    if (!Skip('{') || !Key(name) || name != "format" || !Text(v)) return false;
+  std::size_t Offset() const { return static_cast<std::size_t>(p_ - begin_); }
+  void MoveTo(std::size_t offset) { p_ = begin_ + offset; }
+  const char* At(std::size_t offset) const { return begin_ + offset; }
+  // Whether a text read stands where it was written, not decoded.
+  bool InText(const FieldValue& v) const {
+    return std::greater_equal<const char*>{}(v.text, begin_) && std::less_equal<const char*>{}(v.text, end_);
+  }
+
+  // The head of an export: an object of "format" (a text), "fileVersion" (a
+  // whole number) and "fields" (an object), those three in that order. It
+  // leaves the cursor inside "fields"; more says whether a member follows.
+  bool Head(std::string& format, bool& more) {
+    FieldValue name, v;
+    if (!Skip('{') || !Key(name) || View(name) != "format" || !Text(v, text_)) return false;
     format.assign(v.text, v.textSize);
-    if (!Skip(',') || !Key(name) || name != "fileVersion" || !Scalar(v) || !IsWhole(v)) return false;
-    if (!Skip(',') || !Key(name) || name != "fields" || !Skip('{')) return false;
+    if (!Skip(',') || !Key(name) || View(name) != "fileVersion" || !Scalar(v) || !IsWhole(v)) return false;
+    if (!Skip(',') || !Key(name) || View(name) != "fields" || !Skip('{')) return false;
     SkipBlank();
-    if (p_ < end_ && *p_ == '}') {
-      ++p_;
-    } else {
-      for (;;) {
-        if (!Key(name) || !Scalar(v)) return false;
-        table_.Add(name, v);
-        SkipBlank();
-        if (p_ >= end_) return false;
-        const char c = *p_++;
-        if (c == '}') break;
-        if (c != ',') return false;
-      }
-    }
+    more = !(p_ < end_ && *p_ == '}');
+    if (!more) ++p_;
+    return true;
+  }
+  // A member of "fields", "name": value, and the comma or the closing brace
+  // after it; more says which.
+  bool Member(FieldValue& name, FieldValue& value, bool& more) {
+    return Key(name) && Scalar(value) && EndOfMember(more);
+  }
+  // After "fields": the closing brace of the whole, and nothing more.
+  bool Tail() {
     if (!Skip('}')) return false;
     SkipBlank();
     return p_ == end_;
   }
+  // "name": with the colon.
+  bool Key(FieldValue& name) { return Name(name) && Skip(':'); }
+  // "name", without the colon.
+  bool Name(FieldValue& name) { return Text(name, names_); }
+  // Whether the next text, after blanks, is this name written as it stands;
+  // if so the cursor goes past it. A name that is written otherwise (with
+  // escapes) is not taken.
+  bool PlainName(std::string_view name) {
+    SkipBlank();
+    const std::size_t size = name.size();
+    if (static_cast<std::size_t>(end_ - p_) < size + 2 || *p_ != '"' || p_[size + 1] != '"') return false;
+    if (!SameBytes(p_ + 1, name.data(), size)) return false;
+    p_ += size + 2;
+    return true;
+  }
+  // After a member's value: the comma or the closing brace; more says which.
+  bool EndOfMember(bool& more) {
+    SkipBlank();
+    if (p_ >= end_) return false;
+    const char c = *p_++;
+    more = c == ',';
+    return more || c == '}';
+  }
+  // The colon after a name, and the blanks after it.
+  bool Colon() {
+    if (!Skip(':')) return false;
+    SkipBlank();
+    return true;
+  }
+  // A text, a whole number, true, false or null, after blanks. Numbers with
+  // a fraction or an exponent, and those too long to be sure of, are left to
+  // the library.
+  bool Scalar(FieldValue& v) {
+    SkipBlank();
+    if (p_ >= end_) return false;
+    const char c = *p_;
+    if (c == '"') return Text(v, text_);
+    if (c == 't') return Word("true", v, FieldValue::kBool, true);
+    if (c == 'f') return Word("false", v, FieldValue::kBool, false);
+    if (c == 'n') return Word("null", v, FieldValue::kNull, false);
+    const bool negative = c == '-';
+    const char* q = p_ + (negative ? 1 : 0);
+    const char* const digits = q;
+    std::uint64_t n = 0;
+    while (q < end_ && *q >= '0' && *q <= '9') n = n * 10 + static_cast<std::uint64_t>(*q++ - '0');
+    const std::ptrdiff_t count = q - digits;
+    if (count == 0 || count > 18 || (count > 1 && *digits == '0')) return false;
+    if (q < end_ && (*q == '.' || *q == 'e' || *q == 'E')) return false;
+    p_ = q;
+    v = FieldValue{};
+    if (negative) {
+      v.kind = FieldValue::kInteger;
+      v.integer = -static_cast<std::int64_t>(n);
+    } else {
+      v.kind = FieldValue::kUnsigned;
+      v.whole = n;
+    }
+    return true;
+  }
+
+  static std::string_view View(const FieldValue& t) { return {t.text, t.textSize}; }
 
  private:
+  // Whether two short runs of bytes are the same, a word at a time.
+  static bool SameBytes(const char* a, const char* b, std::size_t size) {
+    for (; size >= 8; a += 8, b += 8, size -= 8) {
+      std::uint64_t x = 0, y = 0;
+      std::memcpy(&x, a, 8);
+      std::memcpy(&y, b, 8);
+      if (x != y) return false;
+    }
+    for (; size > 0; ++a, ++b, --size) {
+      if (*a != *b) return false;
+    }
+    return true;
+  }
+
   static bool IsWhole(const FieldValue& v) { return v.kind == FieldValue::kInteger || v.kind == FieldValue::kUnsigned; }
 
   void SkipBlank() {
@@ -509,25 +665,20 @@ class NarrowReader {
     ++p_;
     return true;
   }
-  // "name": with the colon.
-  bool Key(std::string_view& name) {
-    FieldValue v;
-    if (!Text(v) || !Skip(':')) return false;
-    name = std::string_view(v.text, v.textSize);
-    return true;
-  }
 
-  // A text, after blanks.
-  bool Text(FieldValue& v) {
+  // A text, after blanks; decoded into out when it must be.
+  bool Text(FieldValue& v, std::string& out) {
     SkipBlank();
     if (p_ >= end_ || *p_ != '"') return false;
     const char* const start = ++p_;
     // Most texts are plain: printable ASCII without escapes.
-    while (p_ < end_) {
-      const auto b = static_cast<unsigned char>(*p_);
+    const char* q = p_;
+    while (q < end_) {
+      const auto b = static_cast<unsigned char>(*q);
       if (b == '"' || b == '\\' || b < 0x20 || b >= 0x80) break;
-      ++p_;
+      ++q;
     }
+    p_ = q;
     if (p_ >= end_) return false;
     if (*p_ == '"') {
       v.kind = FieldValue::kText;
@@ -536,15 +687,13 @@ class NarrowReader {
       ++p_;
       return true;
     }
-    // Otherwise it is decoded into the table's characters.
-    std::string& out = scratch_;
     out.assign(start, p_);
     while (p_ < end_) {
       const auto b = static_cast<unsigned char>(*p_);
       if (b == '"') {
         ++p_;
         v.kind = FieldValue::kText;
-        v.text = table_.Keep(out);
+        v.text = out.data();
         v.textSize = static_cast<std::uint32_t>(out.size());
         return true;
       }
@@ -654,36 +803,6 @@ class NarrowReader {
     return true;
   }
 
-  // A text, a whole number, true, false or null, after blanks. Numbers with
-  // a fraction or an exponent, and those too long to be sure of, are left to
-  // the library.
-  bool Scalar(FieldValue& v) {
-    SkipBlank();
-    if (p_ >= end_) return false;
-    const char c = *p_;
-    if (c == '"') return Text(v);
-    if (c == 't') return Word("true", v, FieldValue::kBool, true);
-    if (c == 'f') return Word("false", v, FieldValue::kBool, false);
-    if (c == 'n') return Word("null", v, FieldValue::kNull, false);
-    const bool negative = c == '-';
-    const char* q = p_ + (negative ? 1 : 0);
-    const char* const digits = q;
-    std::uint64_t n = 0;
-    while (q < end_ && *q >= '0' && *q <= '9') n = n * 10 + static_cast<std::uint64_t>(*q++ - '0');
-    const std::ptrdiff_t count = q - digits;
-    if (count == 0 || count > 18 || (count > 1 && *digits == '0')) return false;
-    if (q < end_ && (*q == '.' || *q == 'e' || *q == 'E')) return false;
-    p_ = q;
-    v = FieldValue{};
-    if (negative) {
-      v.kind = FieldValue::kInteger;
-      v.integer = -static_cast<std::int64_t>(n);
-    } else {
-      v.kind = FieldValue::kUnsigned;
-      v.whole = n;
-    }
-    return true;
-  }
   bool Word(std::string_view word, FieldValue& v, FieldValue::Kind kind, bool on) {
     if (static_cast<std::size_t>(end_ - p_) < word.size() || std::string_view(p_, word.size()) != word) return false;
     p_ += word.size();
@@ -693,52 +812,232 @@ class NarrowReader {
     return true;
   }
 
+  const char* const begin_;
   const char* p_;
   const char* const end_;
-  FieldTable& table_;
-  std::string scratch_;
+  std::string names_;  // a name decoded
+  std::string text_;   // a value decoded
 };
 
-// Fills the tables from the "fields" object; a name that is missing reads as
-// 0 or empty, like a field beyond the end of a short file. A value of the
-// wrong kind is refused with its path, and so (after the walk) is a name
-// that no field of a scenario with these counts has.
-class ImportVisitor {
+// Reads an export's own text into the table, each member as it stands; see
+// JsonCursor for what it gives up on.
+class NarrowReader {
  public:
-  explicit ImportVisitor(FieldTable& fields) : fields_(fields) {}
+  NarrowReader(const std::string& text, FieldTable& table) : cursor_(text), table_(table) {}
 
-  std::string error;  // the first refusal, "" when none
-
-  mf::Long Long(const FieldName& n, mf::Long& ref, Check c = {}) {
-    mf::Long value = 0;
-    // JSON written by hand may leave out the version; it means the current layout.
-    if (n.role == FieldRole::kFileVersion && Find(n) == nullptr) value = kFileVersion;
-    else value = Number(n, std::numeric_limits<mf::Long>::min(), std::numeric_limits<mf::Long>::max(), "long");
-    value = ApplyCheck(value, c);
-    ref = value;
-    return value;
-  }
-  mf::Long Short(const FieldName& n, mf::Short& ref, Check c = {}) {
-    mf::Long value = Number(n, std::numeric_limits<mf::Short>::min(), std::numeric_limits<mf::Short>::max(), "short");
-    value = ApplyCheck(value, c);
-    ref = static_cast<mf::Short>(value);
-    return value;
-  }
-  mf::Long Bool(const FieldName& n, mf::Long& ref) {
-    const FieldValue* j = Find(n);
-    bool on = false;
-    if (j != nullptr) {
-      if (j->kind == FieldValue::kBool) on = j->on;
-      else Refuse(n, "true or false", *j);
+  bool Read(std::string& format) {
+    bool more = false;
+    if (!cursor_.Head(format, more)) return false;
+    FieldValue name, v;
+    while (more) {
+      if (!cursor_.Member(name, v, more)) return false;
+      // What was decoded is kept with the table, as long as the table.
+      Keep(name);
+      if (v.kind == FieldValue::kText) Keep(v);
+      table_.Add(JsonCursor::View(name), v);
     }
-    ref = on ? kTrue : kFalse;
-    return ref;
+    return cursor_.Tail();
   }
-  void Text(const FieldName& n, std::string& ref) { ref = TextOf(n); }
-  void LongText(const FieldName& n, std::string& ref) { ref = TextOf(n); }
-  void Assign(const FieldName&, mf::Long& ref, mf::Long value) { ref = value; }
-  bool HeadHasFog(mf::Long v) { return v >= 10; }
-  bool Proceed(mf::Long) { return true; }
+
+ private:
+  void Keep(FieldValue& t) {
+    if (!cursor_.InText(t)) t.text = table_.Keep(JsonCursor::View(t));
+  }
+
+  JsonCursor cursor_;
+  FieldTable& table_;
+};
+
+// Where the members of each record ("Hex[3,4].", "Game.") begin, for a field
+// asked for once more where the walk's place does not tell. A record's
+// members come in runs, one run after another member of another record.
+class RecordRuns {
+ public:
+  // A run of n's record begins at this member.
+  void Add(const FieldName& n, std::size_t member) {
+    runs_.push_back(Run{n.rec, n.i, n.j, static_cast<std::uint32_t>(member)});
+  }
+  // The first member of n's record, of members members in all, that found
+  // says is the one, or npos. It looks through every run: it is asked only
+  // when the walk's place does not tell, a few times for each regime.
+  template <class Found>
+  std::size_t Find(const FieldName& n, std::size_t members, Found found) const {
+    for (std::size_t r = 0; r < runs_.size(); ++r) {
+      const Run& run = runs_[r];
+      if (run.rec != n.rec || run.i != n.i || run.j != n.j) continue;
+      const std::size_t end = r + 1 < runs_.size() ? runs_[r + 1].start : members;
+      for (std::size_t m = run.start; m < end; ++m) {
+        if (found(m)) return m;
+      }
+    }
+    return std::string::npos;
+  }
+
+ private:
+  struct Run {
+    FieldRec rec;
+    int i, j;
+    std::uint32_t start;  // its first member
+  };
+  std::vector<Run> runs_;
+};
+
+// Where a member of "fields" stands in the text: its name (after the comma
+// before it) and its value.
+struct MemberPlace {
+  std::uint32_t name = 0;
+  std::uint32_t value = 0;
+};
+
+// Whether the name at the cursor is n's, and the cursor past it.
+bool NameIs(JsonCursor& cursor, NameCache& names, const FieldName& n) {
+  const std::string_view expected = names.Of(n);
+  if (cursor.PlainName(expected)) return true;
+  // A name written with escapes is compared as decoded.
+  FieldValue name;
+  return cursor.Name(name) && JsonCursor::View(name) == expected;
+}
+
+// An export's own text, read in two passes in the walk's order, without a
+// table of names. The first pass checks and stores nothing: each member must
+// have the name the walk asks for next, and when the walk ends no member may
+// be left. The walk's names are all different, so then no name is written
+// twice and none is unknown, and each member's value is the one the table of
+// names would give; the walk takes its counts from those values as it goes.
+// A field asked for once more (the count of peoples before each people, a
+// regime's sight after its news) must be one of the members met before it.
+// When anything differs the first pass gives up, and the text is read by the
+// table of names. The second pass fills the tables from the values where the
+// first one found them.
+class InOrderCheck {
+ public:
+  static constexpr bool kStores = false;
+
+  InOrderCheck(const JsonCursor& fields, bool more, std::vector<MemberPlace>& members,
+               std::vector<FieldValue>& again)
+      : cursor_(fields), other_(fields), more_(more), members_(members), again_(again) {}
+
+  // Whether every member had the name the walk asked for, none is left, and
+  // the text ends as an export ends.
+  bool AllInOrder() { return !failed_ && !more_ && cursor_.Tail(); }
+
+  const FieldValue* Find(const FieldName& n) {
+    if (failed_) return nullptr;
+    if (n.repeat) return FindAgain(n);
+    MemberPlace place;
+    place.name = static_cast<std::uint32_t>(cursor_.Offset());
+    if (!more_ || !NameIs(cursor_, names_, n) || !cursor_.Colon()) return GiveUp();
+    place.value = static_cast<std::uint32_t>(cursor_.Offset());
+    if (!cursor_.Scalar(value_) || !cursor_.EndOfMember(more_)) return GiveUp();
+    if (members_.empty() || !n.SameRecord(run_)) {
+      runs_.Add(n, members_.size());
+      run_ = n;
+    }
+    members_.push_back(place);
+    return &value_;
+  }
+
+ private:
+  const FieldValue* GiveUp() {
+    failed_ = true;
+    return nullptr;
+  }
+  bool NameAt(std::size_t member, const FieldName& n) {
+    other_.MoveTo(members_[member].name);
+    return NameIs(other_, names_, n);
+  }
+  // A field asked for once more is first looked for as far on from the last
+  // one asked for again as that was from the one before, so that a run of
+  // them, hex by hex, finds each at the first try; otherwise among the
+  // members of its record.
+  const FieldValue* FindAgain(const FieldName& n) {
+    std::size_t at = lastAgain_ + strideAgain_;
+    if (at >= members_.size() || !NameAt(at, n)) {
+      // Looking through the records is for a few asks; a text that needs
+      // it more often is left to the table of names.
+      if (++looks_ > kLooks) return GiveUp();
+      at = runs_.Find(n, members_.size(), [&](std::size_t m) { return NameAt(m, n); });
+      if (at == std::string::npos) return GiveUp();
+    }
+    strideAgain_ = at - lastAgain_;
+    lastAgain_ = at;
+    // The members to come, and their texts, fetched ahead.
+    const std::size_t ahead = at + 2 * strideAgain_;
+    if (ahead < members_.size()) {
+      const std::size_t further = ahead + 2 * strideAgain_;
+      if (further < members_.size()) __builtin_prefetch(&members_[further]);
+      const char* name = other_.At(members_[ahead].name);
+      __builtin_prefetch(name);
+      __builtin_prefetch(name + 32);
+    }
+    other_.MoveTo(members_[at].value);
+    if (!other_.Scalar(value_)) return GiveUp();
+    // A text decoded would not outlast the next read; a field asked for
+    // again is a number, so such a text is left to the table of names.
+    if (value_.kind == FieldValue::kText && !other_.InText(value_)) return GiveUp();
+    again_.push_back(value_);
+    return &value_;
+  }
+
+  // How often the records are looked through before the text is left to
+  // the table of names.
+  static constexpr int kLooks = 256;
+
+  JsonCursor cursor_;  // the next member
+  JsonCursor other_;   // a member met before
+  bool more_;
+  bool failed_ = false;
+  std::vector<MemberPlace>& members_;
+  std::vector<FieldValue>& again_;  // the value of each field asked for again
+  RecordRuns runs_;
+  int looks_ = 0;
+  FieldName run_;  // the record of the last member
+  NameCache names_;
+  std::size_t lastAgain_ = 0, strideAgain_ = 0;
+  FieldValue value_;
+};
+
+// The second pass over a text the first one found in order: each member's
+// value read where the first pass found it, and each field asked for again
+// as the first pass read it.
+class InOrderRead {
+ public:
+  static constexpr bool kStores = true;
+
+  InOrderRead(const JsonCursor& fields, const std::vector<MemberPlace>& members,
+              const std::vector<FieldValue>& again)
+      : cursor_(fields), members_(members), again_(again) {}
+
+  const FieldValue* Find(const FieldName& n) {
+    if (n.repeat) return nextAgain_ < again_.size() ? &again_[nextAgain_++] : nullptr;
+    if (next_ >= members_.size()) return nullptr;
+    cursor_.MoveTo(members_[next_++].value);
+    if (!cursor_.Scalar(value_)) return nullptr;
+    return &value_;
+  }
+
+ private:
+  JsonCursor cursor_;
+  const std::vector<MemberPlace>& members_;
+  const std::vector<FieldValue>& again_;
+  std::size_t next_ = 0, nextAgain_ = 0;
+  FieldValue value_;
+};
+
+// The members from the table of names, for any other text.
+class TableSource {
+ public:
+  static constexpr bool kStores = true;
+
+  explicit TableSource(FieldTable& fields) : fields_(fields) {}
+
+  const FieldValue* Find(const FieldName& n) {
+    FieldEntry* e = fields_.Find(names_.Of(n), n.repeat);
+    if (e == nullptr) return nullptr;
+    if (!e->found) ++found_;
+    e->found = true;
+    return &e->value;
+  }
 
   // The first name of the object, in the order of names, that the walk never
   // asked for.
@@ -757,13 +1056,60 @@ class ImportVisitor {
   }
 
  private:
-  const FieldValue* Find(const FieldName& n) {
-    FieldEntry* e = fields_.Find(names_.Of(n), n.repeat);
-    if (e == nullptr) return nullptr;
-    if (!e->found) ++found_;
-    e->found = true;
-    return &e->value;
+  FieldTable& fields_;
+  NameCache names_;
+  std::size_t found_ = 0;  // members asked for
+};
+
+// Fills the tables from the "fields" object, its members given by a Source;
+// a name that is missing reads as 0 or empty, like a field beyond the end of
+// a short file. A value of the wrong kind is refused with its path, and so
+// (after the walk) is a name that no field of a scenario with these counts
+// has. A Source that does not store gives the walk its counts and nothing
+// else.
+template <class Source>
+class ImportVisitor {
+ public:
+  explicit ImportVisitor(Source& source) : source_(source) {}
+
+  std::string error;  // the first refusal, "" when none
+
+  mf::Long Long(const FieldName& n, mf::Long& ref, Check c = {}) {
+    const FieldValue* j = source_.Find(n);
+    mf::Long value = 0;
+    // JSON written by hand may leave out the version; it means the current layout.
+    if (n.role == FieldRole::kFileVersion && j == nullptr) value = kFileVersion;
+    else value = Number(n, j, std::numeric_limits<mf::Long>::min(), std::numeric_limits<mf::Long>::max(), "long");
+    value = ApplyCheck(value, c);
+    if constexpr (Source::kStores) ref = value;
+    return value;
   }
+  mf::Long Short(const FieldName& n, mf::Short& ref, Check c = {}) {
+    mf::Long value = Number(n, source_.Find(n), std::numeric_limits<mf::Short>::min(), std::numeric_limits<mf::Short>::max(), "short");
+    value = ApplyCheck(value, c);
+    if constexpr (Source::kStores) ref = static_cast<mf::Short>(value);
+    return value;
+  }
+  mf::Long Bool(const FieldName& n, mf::Long& ref) {
+    const FieldValue* j = source_.Find(n);
+    bool on = false;
+    if (j != nullptr) {
+      if (j->kind == FieldValue::kBool) on = j->on;
+      else Refuse(n, "true or false", *j);
+    }
+    const mf::Long value = on ? kTrue : kFalse;
+    if constexpr (Source::kStores) ref = value;
+    return value;
+  }
+  void Text(const FieldName& n, std::string& ref) { StoreText(n, ref); }
+  void LongText(const FieldName& n, std::string& ref) { StoreText(n, ref); }
+  void Assign(const FieldName&, mf::Long& ref, mf::Long value) {
+    if constexpr (Source::kStores) ref = value;
+  }
+  bool HeadHasFog(mf::Long v) { return v >= 10; }
+  bool Proceed(mf::Long) { return true; }
+
+ private:
   static const char* KindOf(const FieldValue& j) {
     switch (j.kind) {
       case FieldValue::kText: return "a text";
@@ -790,8 +1136,8 @@ class ImportVisitor {
     if (!error.empty()) return;
     error = "fields.\"" + n.Format() + "\": expected " + wanted + ", found " + KindOf(j);
   }
-  mf::Long Number(const FieldName& n, std::int64_t lo, std::int64_t hi, const char* width) {
-    const FieldValue* j = Find(n);
+  // The number found for n (nullptr when there is none), checked to fit.
+  mf::Long Number(const FieldName& n, const FieldValue* j, std::int64_t lo, std::int64_t hi, const char* width) {
     if (j == nullptr) return 0;
     if (!IsNumber(*j)) {
       Refuse(n, "a number", *j);
@@ -816,17 +1162,16 @@ class ImportVisitor {
       error = "fields.\"" + n.Format() + "\": " + Dump(*j) + " does not fit a " + width + " field";
     return value;
   }
-  std::string TextOf(const FieldName& n) {
-    const FieldValue* j = Find(n);
-    if (j == nullptr) return {};
-    if (j->kind == FieldValue::kText) return fields_.Text(*j);
-    Refuse(n, "a text", *j);
-    return {};
+  void StoreText(const FieldName& n, std::string& ref) {
+    const FieldValue* j = source_.Find(n);
+    if (j != nullptr && j->kind != FieldValue::kText) Refuse(n, "a text", *j);
+    if constexpr (Source::kStores) {
+      if (j != nullptr && j->kind == FieldValue::kText) ref.assign(j->text, j->textSize);
+      else ref.clear();
+    }
   }
 
-  FieldTable& fields_;
-  NameCache names_;
-  std::size_t found_ = 0;  // members asked for
+  Source& source_;
 };
 
 // Line and column (from 1) of a byte offset of a text.
@@ -841,6 +1186,32 @@ std::string LineAndColumn(const std::string& text, std::size_t offset) {
     }
   }
   return "line " + std::to_string(line) + ", column " + std::to_string(column);
+}
+
+// Reads an export's own text in the walk's order (see InOrderCheck), and
+// says whether it did, with the first refusal in error; false leaves the
+// tables as they were, for the table of names.
+bool ReadInOrder(const std::string& text, std::string& error) {
+  // Places in the text are kept in 32 bits.
+  if (text.size() >= std::numeric_limits<std::uint32_t>::max()) return false;
+  JsonCursor fields(text);
+  std::string format;
+  bool more = false;
+  if (!fields.Head(format, more) || format != kFormatName) return false;
+  std::vector<MemberPlace> members;
+  members.reserve(text.size() / 16 + 16);
+  std::vector<FieldValue> again;
+  {
+    InOrderCheck check(fields, more, members, again);
+    ImportVisitor first(check);
+    WalkScenario(first);
+    if (!check.AllInOrder()) return false;
+  }
+  InOrderRead read(fields, members, again);
+  ImportVisitor second(read);
+  WalkScenario(second);
+  error = std::move(second.error);
+  return true;
 }
 
 }  // namespace
@@ -859,6 +1230,7 @@ std::string ExportJson() {
   out += ",\n  \"fields\": {";
   ExportVisitor v(out);
   WalkScenario(v);
+  v.Flush();
   out += "\n  }\n}\n";
   return out;
 }
@@ -868,6 +1240,9 @@ bool ImportJson(const std::string& text, std::string* why) {
     if (why != nullptr) *why = reason;
     return false;
   };
+  // An export's own text, in the walk's order, needs no table of names.
+  std::string error;
+  if (ReadInOrder(text, error)) return error.empty() ? true : fail(error);
   FieldTable fields;
   fields.Reserve(text.size());
   ScenarioSax sax(fields);
@@ -901,10 +1276,11 @@ bool ImportJson(const std::string& text, std::string* why) {
   }
   if (!sax.hasFields || !sax.fieldsIsObject) return fail("no \"fields\" object");
   fields.Index();
-  ImportVisitor v(fields);
+  TableSource source(fields);
+  ImportVisitor v(source);
   WalkScenario(v);
   if (!v.error.empty()) return fail(v.error);
-  const std::string unknown = v.FirstUnknownName();
+  const std::string unknown = source.FirstUnknownName();
   if (!unknown.empty())
     return fail("fields.\"" + unknown + "\": no such field in a scenario with these counts and this map");
   return true;

@@ -1,10 +1,14 @@
 // The JSON form of a scenario: every field once, by name, in file order;
 // JSON to tables to file gives the bytes of the file it came from.
+#include <algorithm>
 #include <string>
+#include <utility>
+#include <vector>
 
 #include "control/scenario_flow.h"
 #include "files/json_io.h"
 #include "files/scenario_file.h"
+#include "files/scenario_schema.h"
 #include "files_test_util.h"
 #include "model/game_state.h"
 #include "model/reset.h"
@@ -187,6 +191,173 @@ TEST_F(JsonIo, OutOfRangeValuesAreCheckedAsInAFile) {
   EXPECT_EQ(Hex[1][1].Unit[1], 0);
   EXPECT_EQ(Hex[1][2].Unit[1], 0);
   EXPECT_EQ(Game.TypeCount, 0);
+}
+
+}  // namespace
+}  // namespace mf::test
+
+namespace mf::test {
+namespace {
+
+// What an import gives: its answer, its reason and the saved file of the
+// tables it filled, starting from cleared tables.
+struct Imported {
+  bool ok = false;
+  std::string why;
+  std::string saved;
+};
+
+Imported ImportFresh(const std::string& json) {
+  ClearForLoad();
+  Imported r;
+  r.ok = ImportJson(json, &r.why);
+  r.saved = SerializeScenario();
+  return r;
+}
+
+// The member of that name as written, "name": value, up to the comma or the
+// line end after it; "" when there is none.
+std::string MemberOf(const std::string& json, const std::string& name) {
+  const std::string key = "\"" + name + "\": ";
+  const std::size_t at = json.find(key);
+  if (at == std::string::npos) return "";
+  const std::size_t end = json.find_first_of(",\n", at + key.size());
+  return json.substr(at, end - at);
+}
+
+// The text with one member written otherwise; unchanged when it has none.
+std::string Replaced(std::string json, const std::string& name, const std::string& member) {
+  const std::string old = MemberOf(json, name);
+  if (!old.empty()) json.replace(json.find(old), old.size(), member);
+  return json;
+}
+
+// The text with its first member of "fields" (the version, without a comma
+// in it) moved to the end, blanks and all: the walk's first ask then finds
+// another name, so the text is read through the table of names rather than
+// in the walk's order.
+std::string FirstMemberLast(const std::string& json) {
+  const std::string open = "\"fields\": {";
+  const std::size_t start = json.find(open) + open.size();
+  const std::size_t comma = json.find(',', start);
+  const std::string first = json.substr(start, comma - start);
+  std::string s = json;
+  s.erase(start, comma + 1 - start);
+  s.insert(s.rfind('}', s.rfind('}') - 1), "," + first);
+  return s;
+}
+
+TEST_F(JsonIo, ATextInTheWalksOrderReadsAsTheSameTextInAnotherOrder) {
+  BuildRichScenario();
+  const std::string json = ExportJson();
+  const std::string turn = MemberOf(json, "Game.Turn");
+  const std::string sight = MemberOf(json, "Hex[2,3].Seen[1]");
+  const std::string units = MemberOf(json, "Game.UnitCount");
+  const std::string peoples = MemberOf(json, "Game.PeopleCount");
+  ASSERT_FALSE(turn.empty());
+  ASSERT_FALSE(sight.empty());
+  ASSERT_FALSE(units.empty());
+  ASSERT_FALSE(peoples.empty());
+  auto blanks = [](std::string s) {
+    // Raw line ends stand only between members: texts write theirs as \n.
+    for (std::size_t at = s.find('\n'); at != std::string::npos; at = s.find('\n', at + 6)) s.replace(at, 1, "\n\t \r\n ");
+    return s;
+  };
+  const std::string close = "\n  }\n}\n";
+  auto atEnd = [&](const std::string& members) {
+    std::string s = json;
+    s.insert(s.rfind(close), ",\n    " + members);
+    return s;
+  };
+  const std::vector<std::pair<std::string, std::string>> cases = {
+      {"the export", json},
+      {"other blanks", blanks(json)},
+      {"a name with escapes", Replaced(json, "Game.Turn", "\"Game.Tur\\u006e\": 6")},
+      {"a sight's name with escapes", Replaced(json, "Hex[2,3].Seen[1]", "\"Hex[2,3].Seen\\u005b1]\": 3")},
+      {"a text for a number", Replaced(json, "Game.Turn", "\"Game.Turn\": \"late\"")},
+      {"a text for a sight", Replaced(json, "Hex[2,3].Seen[1]", "\"Hex[2,3].Seen[1]\": \"x\"")},
+      {"a text with escapes for a sight", Replaced(json, "Hex[2,3].Seen[1]", "\"Hex[2,3].Seen[1]\": \"\\u0078\"")},
+      {"a sight too big", Replaced(json, "Hex[2,3].Seen[1]", "\"Hex[2,3].Seen[1]\": 70000")},
+      {"a fraction", Replaced(json, "Game.Turn", "\"Game.Turn\": 4.5")},
+      {"a name twice, the last at the end", atEnd("\"Game.Turn\": 99")},
+      {"a count twice, the last smaller", Replaced(json, "Game.UnitCount", units + ",\n    \"Game.UnitCount\": 2")},
+      {"a count twice, the first smaller", Replaced(json, "Game.UnitCount", "\"Game.UnitCount\": 2,\n    " + units)},
+      {"a name left out", Replaced(json, "Game.Turn", "\"Game.Turn\": 5,\n    \"Game.Turm\": 5")},
+      {"an unknown name at the end", atEnd("\"Game.Nothing\": 1")},
+      {"fewer peoples", Replaced(json, "Game.PeopleCount", "\"Game.PeopleCount\": 1")},
+      {"no peoples", Replaced(json, "Game.PeopleCount", "\"Game.PeopleCount\": 0")},
+      {"an old version", Replaced(json, "Game.FileVersion", "\"Game.FileVersion\": 99")},
+  };
+  for (const auto& [what, text] : cases) {
+    const Imported inOrder = ImportFresh(text);
+    const Imported moved = ImportFresh(FirstMemberLast(text));
+    EXPECT_EQ(inOrder.ok, moved.ok) << what;
+    EXPECT_EQ(inOrder.why, moved.why) << what;
+    EXPECT_TRUE(inOrder.saved == moved.saved) << what;
+  }
+  {
+    const Imported inOrder = ImportFresh(json + "{}");
+    const Imported moved = ImportFresh(FirstMemberLast(json) + "{}");
+    EXPECT_EQ(inOrder.ok, moved.ok);
+    EXPECT_EQ(inOrder.why, moved.why);
+    EXPECT_TRUE(inOrder.saved == moved.saved);
+    EXPECT_EQ(inOrder.why.rfind("not valid JSON: ", 0), 0u) << inOrder.why;
+  }
+  // And what each of them means.
+  EXPECT_TRUE(ImportFresh(json).ok);
+  EXPECT_EQ(ExportJson(), json);
+  EXPECT_TRUE(ImportFresh(blanks(json)).ok);
+  EXPECT_EQ(ExportJson(), json);
+  EXPECT_TRUE(ImportFresh(Replaced(json, "Game.Turn", "\"Game.Tur\\u006e\": 6")).ok);
+  EXPECT_EQ(Game.Turn, 6);
+  EXPECT_TRUE(ImportFresh(Replaced(json, "Hex[2,3].Seen[1]", "\"Hex[2,3].Seen\\u005b1]\": 3")).ok);
+  EXPECT_EQ(Hex[2][3].Seen[1], 3);
+  EXPECT_EQ(ImportFresh(Replaced(json, "Hex[2,3].Seen[1]", "\"Hex[2,3].Seen[1]\": \"x\"")).why,
+            "fields.\"Hex[2,3].Seen[1]\": expected a number, found a text");
+  EXPECT_EQ(ImportFresh(Replaced(json, "Hex[2,3].Seen[1]", "\"Hex[2,3].Seen[1]\": 70000")).why,
+            "fields.\"Hex[2,3].Seen[1]\": 70000 does not fit a short field");
+  EXPECT_TRUE(ImportFresh(atEnd("\"Game.Turn\": 99")).ok);
+  EXPECT_EQ(Game.Turn, 99);  // the last value of a name written twice
+  EXPECT_TRUE(ImportFresh(Replaced(json, "Game.UnitCount", "\"Game.UnitCount\": 2,\n    " + units)).ok);
+  EXPECT_EQ(ExportJson(), json);
+  EXPECT_EQ(ImportFresh(Replaced(json, "Game.UnitCount", units + ",\n    \"Game.UnitCount\": 2")).why,
+            "fields.\"Unit[3].AIX\": no such field in a scenario with these counts and this map");
+  EXPECT_EQ(Game.UnitCount, 2);
+  EXPECT_EQ(ImportFresh(Replaced(json, "Game.Turn", "\"Game.Turn\": 5,\n    \"Game.Turm\": 5")).why,
+            "fields.\"Game.Turm\": no such field in a scenario with these counts and this map");
+}
+
+TEST_F(JsonIo, TextsLongerThanTheWritersBufferGoThroughWhole) {
+  BuildRichScenario();
+  std::string plain(200000, 'a');
+  for (std::size_t i = 0; i < plain.size(); i += 7) plain[i] = 'b';
+  std::string escaped = plain;
+  for (std::size_t i = 0; i < escaped.size(); i += 1000) escaped[i] = '"';
+  Game.ScenarioStory = plain;
+  Regime[1].Intro = escaped;
+  const std::string json = ExportJson();
+  EXPECT_NE(json.find("\"Game.ScenarioStory\": \"" + plain + "\","), std::string::npos);
+  ClearForLoad();
+  std::string why;
+  ASSERT_TRUE(ImportJson(json, &why)) << why;
+  EXPECT_EQ(Game.ScenarioStory, plain);
+  EXPECT_EQ(Regime[1].Intro, escaped);
+  EXPECT_EQ(ExportJson(), json);
+}
+
+// The import reads a text in the walk's order without a table of names, and
+// tells a name written twice from the walk's order alone: that holds only
+// while the walk asks for each name once, apart from the fields it asks for
+// again.
+TEST_F(JsonIo, TheWalkAsksForEachNameOnce) {
+  BuildRichScenario();
+  std::vector<std::string> names;
+  for (const ListedField& f : ListScenarioFields()) {
+    if (!f.repeat) names.push_back(f.name);
+  }
+  ASSERT_GT(names.size(), 1000u);
+  std::sort(names.begin(), names.end());
+  EXPECT_EQ(std::adjacent_find(names.begin(), names.end()), names.end());
 }
 
 }  // namespace
