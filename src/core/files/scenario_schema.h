@@ -84,6 +84,12 @@ struct Check {
   static constexpr Check NotNegative() { return {kIndex, 0, std::numeric_limits<Long>::max()}; }
 };
 
+// The largest size of a unit-type attribute or a rule constant, either way
+// from 0: twenty times the largest the shipped scenarios use (a unit size of
+// 50000 weight). Beyond it a reader takes the nearest end, so that the sums
+// and products play makes of them stay inside a long.
+constexpr Long kFigureCap = 1000000;
+
 // A number as a reader stores it.
 inline Long ApplyCheck(Long value, Check c) {
   switch (c.mode) {
@@ -437,7 +443,7 @@ void WalkScenario(V& v) {
     const Long cls = v.Long(n("Class"), ty.Class, Check::Index(0, 4));
     Long frontsize = 0;
     for (int a = 1; a <= kTypeAttrs; ++a) {
-      const Long value = v.Long(n("Attr", a), ty.Attr[a]);
+      const Long value = v.Long(n("Attr", a), ty.Attr[a], Check::Clamp(-kFigureCap, kFigureCap));
       if (a == kFrontsize) frontsize = value;
     }
     v.Text(n("Text"), ty.Text);
@@ -464,7 +470,7 @@ void WalkScenario(V& v) {
       endWidth.role = FieldRole::kStockWidth;
       v.Long(endWidth, EngineVar[i].Value, Check::Count(kStockCap));
     } else {
-      v.Long(EVName(i), EngineVar[i].Value);
+      v.Long(EVName(i), EngineVar[i].Value, Check::Clamp(-kFigureCap, kFigureCap));
     }
   }
 }

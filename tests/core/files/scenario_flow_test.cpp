@@ -244,8 +244,9 @@ TEST_F(ScenarioFlow, AFolderOrADeviceIsRefusedAndTheGameKept) {
   EXPECT_EQ(Type[1].Name, "Rifles");
 }
 
-// A damaged file with a negative price, a frontsize limit that doubles past
-// the end of a long and political points at the very bottom, loaded and
+// A damaged file with a negative price, a frontsize limit far beyond what a
+// file holds (read as a million, then doubled as an older file's) and
+// political points at the very bottom, loaded and
 // played for two turns: nothing wraps round (the sanitizer build of the
 // suite would report it), and the values stay where the rules keep them.
 TEST_F(ScenarioFlow, ADamagedFileWithExtremeValuesPlaysTwoTurns) {
@@ -273,7 +274,7 @@ TEST_F(ScenarioFlow, ADamagedFileWithExtremeValuesPlaysTwoTurns) {
   WriteBytes(path, Flipped(JoinLines(lines)));
   ASSERT_TRUE(doGoLoad(path));
   EXPECT_EQ(Dip[1][2].Cost, 999);
-  EXPECT_EQ(EngineVar[538].Value, 2147483647);
+  EXPECT_EQ(EngineVar[538].Value, 2000000);
   EXPECT_EQ(Regime[1].PP, -2147483647 - 1);
   for (int r = 1; r <= Game.RegimeCount; ++r) Regime[r].AI = 0;
   UI.EditMode = 0;
