@@ -442,7 +442,7 @@ long long AntiAirPoints(int tx, int ty, long side, long owner) {
   return points;
 }
 
-void doInterdict() {
+void FlyAirMission() {
   Flight f;
   f.mission = MissionUnderWay();
   f.bombing = f.mission == Mission::kInterdict || f.mission == Mission::kStrategic;

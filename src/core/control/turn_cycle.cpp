@@ -280,8 +280,8 @@ void NextTurn() {
     if (EV(704) == 1) ShowEventsOfThisTurn();
     // An event named the next scenario of the campaign: the timer loads it.
     if (UI.PendingFile.size() > 1) return;
-    Step("doNewTurnForm");
-    doNewTurnForm();
+    Step("RunNewTurnDialog");
+    RunNewTurnDialog();
     if (UI.ExitAfterTurnForm) {
       UI.ExitAfterTurnForm = false;
       EndGameToEmptyMap();

@@ -294,7 +294,7 @@ void doAirlift() {
   if (emptyOrOwn && (FirstFreeSlot(tx, ty) == 0 || (tx == ox && ty == oy))) return;
 
   const long before = Unit[wing].MobQty;
-  doInterdict();
+  FlyAirMission();
   const double share = Surviving(before, Unit[wing].MobQty);
   UnitRec& l = Unit[lifted];
   for (int cls = 1; cls <= 4; ++cls) {
@@ -385,7 +385,7 @@ void doAirsupply() {
 
   // 5. The flight.
   const long before = Unit[wing].MobQty;
-  doInterdict();
+  FlyAirMission();
   const double share = Surviving(before, Unit[wing].MobQty);
   need = Int(static_cast<double>(need) * share);
   if (need == 0 || share == 0) {
@@ -454,7 +454,7 @@ void doAirMission() {
     Say("You can only strategicly bomb Towns!");
     return;
   }
-  doInterdict();
+  FlyAirMission();
   ClearFlood();
   UI.Order.InterdictOrder = 0;
   UI.Order.StratBombOrder = 0;
