@@ -62,12 +62,19 @@ void AppendJsonString(std::string& out, const std::string& s) {
 // The letters of a field's name ("Unit"; none for an engine variable).
 std::size_t FieldLetters(const FieldName& n) { return n.rec == FieldRec::kEngineVar ? 0 : std::strlen(n.field); }
 
+// Copies a few characters and gives the end of the copy: names and their
+// parts are short, and a call to copy each would cost more than the copy.
+char* CopyShort(char* out, const char* from, std::size_t size) {
+  for (; size >= 8; out += 8, from += 8, size -= 8) std::memcpy(out, from, 8);
+  for (; size > 0; --size) *out++ = *from++;
+  return out;
+}
+
 // Writes the field's part of a name ("Unit[2]") at out, as
 // FieldName::AppendFieldTo spells it, and gives its end. It takes the field's
 // letters and at most 13 more.
 char* WriteFieldPart(const FieldName& n, std::size_t letters, char* out) {
-  std::memcpy(out, n.field, letters);
-  out += letters;
+  out = CopyShort(out, n.field, letters);
   if (n.k != 0 && n.rec != FieldRec::kEngineVar) {
     *out++ = '[';
     out = std::to_chars(out, out + 11, n.k).ptr;
@@ -218,7 +225,7 @@ class ExportVisitor {
     if (first_) Put("\n    \"", 6);
     else Put(",\n    \"", 7);
     first_ = false;
-    Put(record.data(), record.size());
+    p_ = CopyShort(p_, record.data(), record.size());
     p_ = WriteFieldPart(n, letters, p_);
     Put("\": ", 3);
     return true;
