@@ -6,11 +6,11 @@
 #include "model/bounds.h"
 #include "model/game_state.h"
 #include "model/rnd.h"
+#include "platform/say.h"
 
 namespace mf {
 namespace {
 
-void Say(const std::string& text) { Plat().ShowMessage(text, ""); }
 
 bool ValidOfficer(long o) { return o >= 1 && o <= kOfficerCap; }
 

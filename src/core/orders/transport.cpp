@@ -17,6 +17,7 @@
 #include "orders/order_buttons.h"
 #include "orders/sight.h"
 #include "platform/platform.h"
+#include "platform/say.h"
 
 namespace mf {
 
@@ -34,7 +35,6 @@ namespace {
 constexpr int kSoundFighter = 13;  // "att_fighter.wav"
 constexpr Short kOutOfReach = 999;
 
-void Say(const std::string& text) { Plat().ShowMessage(text, ""); }
 
 void Sound(int slot) {
   if (UI.SoundOff == 0) Plat().PlaySound(slot);
