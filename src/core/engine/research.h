@@ -5,7 +5,12 @@
 
 #include <string>
 
+#include "model/capacity.h"
+
 namespace mf {
+
+// A number that names a field of the research table.
+inline bool ValidResearchField(long long field) { return field >= 1 && field <= kResearchCap; }
 
 // Opens the Research dialog for Game.CurRegime. In the editor the regime is
 // first taken from the selected formation, the editing buttons are shown,

@@ -55,7 +55,6 @@ int SlotOf(int x, int y, int unit) {
   return 0;
 }
 
-bool NoTroops(const UnitRec& u) { return u.InfQty < 1 && u.MobQty < 1 && u.ArtQty < 1 && u.ArmQty < 1; }
 
 Long ReadinessLess(Long readiness, long loss) {
   const long r = readiness - loss;
