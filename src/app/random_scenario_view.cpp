@@ -19,7 +19,7 @@
 
 #include "dialog_views.h"
 #include "random/random_dialog.h"
-#include "regime_rows_view.h"
+#include "start_choices_view.h"
 
 namespace mf::app {
 namespace {
@@ -92,27 +92,14 @@ void ShowRandomScenario(mf::HumbleDialog& humble, QWidget* parent) {
   options->addWidget(fogGroup);
   options->addWidget(ai);
   layout->addLayout(options);
+  const SwitchBoxes switches{fog, exploration, pbem, passwords, aiBonus};
 
-  auto* buttons = new QHBoxLayout();
-  auto* cancel = new QPushButton(D::kCancelCaption, &window);
-  cancel->setObjectName("cancel");
-  auto* start = new QPushButton(D::kStartCaption, &window);
-  start->setObjectName("start");
-  start->setDefault(true);
-  buttons->addStretch(1);
-  buttons->addWidget(cancel);
-  buttons->addWidget(start);
-  layout->addLayout(buttons);
+  QPushButton* start = AddStartButtons(&window, layout, D::kCancelCaption, D::kStartCaption);
 
   // The dialog decides what every box ends up as; the window shows that.
   auto refresh = [=] {
-    const QSignalBlocker b1(fog), b2(exploration), b3(pbem), b4(passwords), b5(aiBonus), b6(allied), b7(realStart),
-        b8(regimeGroup);
-    fog->setChecked(dialog->fog);
-    exploration->setChecked(dialog->exploration);
-    pbem->setChecked(dialog->pbem);
-    passwords->setChecked(dialog->passwords);
-    aiBonus->setChecked(dialog->aiBonus);
+    switches.Show(*dialog);
+    const QSignalBlocker b6(allied), b7(realStart), b8(regimeGroup);
     allied->setChecked(dialog->allied);
     realStart->setChecked(dialog->realStart);
     counts[dialog->regimes]->setChecked(true);
@@ -124,11 +111,7 @@ void ShowRandomScenario(mf::HumbleDialog& humble, QWidget* parent) {
       refresh();
     });
   };
-  box(fog, &D::SetFog, dialog);
-  box(exploration, &D::SetExploration, dialog);
-  box(pbem, &D::SetPbem, dialog);
-  box(passwords, &D::SetPasswords, dialog);
-  box(aiBonus, &D::SetAIBonus, dialog);
+  switches.ConnectTo(&window, dialog, refresh);
   box(allied, &D::SetAllied, dialog);
   box(realStart, &D::SetRealStart, dialog);
   QObject::connect(size, &QLineEdit::textEdited, &window, [dialog](const QString& t) { dialog->SetMapSize(t.toStdString()); });
@@ -146,7 +129,6 @@ void ShowRandomScenario(mf::HumbleDialog& humble, QWidget* parent) {
     dialog->StartButton(&why);
     if (!dialog->IsOpen()) window.accept();
   });
-  QObject::connect(cancel, &QPushButton::clicked, &window, [&window] { window.reject(); });
   refresh();
 
   // Cancel, Esc and the frame's close all cancel.

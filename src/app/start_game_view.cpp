@@ -18,7 +18,7 @@
 #include "dialog_keys.h"
 #include "dialog_views.h"
 #include "engine/start_game_dialog.h"
-#include "regime_rows_view.h"
+#include "start_choices_view.h"
 
 namespace mf::app {
 namespace {
@@ -60,6 +60,7 @@ void ShowStartGame(mf::HumbleDialog& humble, QWidget* parent) {
   options->addWidget(game);
   options->addWidget(fogGroup);
   layout->addLayout(options);
+  const SwitchBoxes switches{fog, exploration, pbem, passwords, aiBonus};
 
   // One row per regime: name, the "Human" choice, the e-mail address.
   auto* grid = new QGridLayout();
@@ -70,55 +71,21 @@ void ShowStartGame(mf::HumbleDialog& humble, QWidget* parent) {
   RegimeRowsView* rowsView = &regimeRows;
   layout->addLayout(grid);
 
-  auto* buttons = new QHBoxLayout();
-  auto* cancel = new QPushButton(Q(dialog->cancelCaption), &window);
-  cancel->setObjectName("cancel");
-  auto* start = new QPushButton(Q(dialog->startCaption), &window);
-  start->setObjectName("start");
-  start->setDefault(true);
-  buttons->addStretch(1);
-  buttons->addWidget(cancel);
-  buttons->addWidget(start);
-  layout->addLayout(buttons);
+  QPushButton* start = AddStartButtons(&window, layout, Q(dialog->cancelCaption), Q(dialog->startCaption));
 
   // The dialog decides what each box ends up as (a box may pull another
   // with it, or refuse); the window only shows that.
   auto refresh = [=] {
-    const QSignalBlocker b1(fog), b2(exploration), b3(pbem), b4(passwords), b5(aiBonus);
-    fog->setChecked(dialog->fog);
-    exploration->setChecked(dialog->exploration);
-    pbem->setChecked(dialog->pbem);
-    passwords->setChecked(dialog->passwords);
-    aiBonus->setChecked(dialog->aiBonus);
+    switches.Show(*dialog);
     rowsView->Show(dialog->rows);
   };
-  QObject::connect(fog, &QCheckBox::toggled, &window, [=](bool on) {
-    dialog->SetFog(on);
-    refresh();
-  });
-  QObject::connect(exploration, &QCheckBox::toggled, &window, [=](bool on) {
-    dialog->SetExploration(on);
-    refresh();
-  });
-  QObject::connect(pbem, &QCheckBox::toggled, &window, [=](bool on) {
-    dialog->SetPbem(on);
-    refresh();
-  });
-  QObject::connect(passwords, &QCheckBox::toggled, &window, [=](bool on) {
-    dialog->SetPasswords(on);
-    refresh();
-  });
-  QObject::connect(aiBonus, &QCheckBox::toggled, &window, [=](bool on) {
-    dialog->SetAIBonus(on);
-    refresh();
-  });
+  switches.ConnectTo(&window, dialog, refresh);
   regimeRows.ConnectTo(&window, dialog, refresh);
   QObject::connect(start, &QPushButton::clicked, &window, [dialog, &window] {
     std::string why;
     // A refusal has shown its message; the dialog stays for the player to mend.
     if (dialog->StartButton(&why)) window.accept();
   });
-  QObject::connect(cancel, &QPushButton::clicked, &window, [&window] { window.reject(); });
   refresh();
 
   SetMainAction(&window, start);

@@ -2,20 +2,14 @@
 
 #include <vector>
 
-#include "engine/fog_switches.h"
 #include "model/arith.h"
 #include "model/bounds.h"
 #include "model/game_state.h"
-#include "platform/dialog_values.h"
 
 namespace mf {
 
 void StartGameDialog::Mirror() {
-  fog = Game.FogOfWar == 1;
-  exploration = Game.FogOfExploration == 1;
-  pbem = Game.PBEM == 1;
-  passwords = Game.UsePasswords == 1;
-  aiBonus = Game.AIProdBonus == 1;
+  MirrorSwitches();
   MirrorRegimeRows(rows, kStartRows, Held(Game.RegimeCount, kStartRows));
 }
 
@@ -25,31 +19,6 @@ void StartGameDialog::Prepare() {
   started = false;
   refused = false;
   refusal.clear();
-  Mirror();
-}
-
-void StartGameDialog::SetFog(bool on) {
-  SetFogOfWar(on);
-  Mirror();
-}
-
-void StartGameDialog::SetExploration(bool on) {
-  SetFogOfExploration(on);
-  Mirror();
-}
-
-void StartGameDialog::SetPbem(bool on) {
-  Game.PBEM = on ? 1 : 0;
-  Mirror();
-}
-
-void StartGameDialog::SetPasswords(bool on) {
-  Game.UsePasswords = on ? 1 : 0;
-  Mirror();
-}
-
-void StartGameDialog::SetAIBonus(bool on) {
-  Game.AIProdBonus = on ? 1 : 0;
   Mirror();
 }
 
@@ -117,31 +86,10 @@ bool StartGameDialog::Act(const std::string& action, const std::string& value, s
 }
 
 bool StartGameDialog::Apply(const std::string& action, const std::string& value, std::string* why) {
-  bool on = false;
-  if (action == "fog" || action == "exploration" || action == "pbem" || action == "passwords" ||
-      action == "aibonus") {
-    if (!BoxValue(value, &on, why)) return false;
-    if (action == "fog") SetFog(on);
-    if (action == "exploration") SetExploration(on);
-    if (action == "pbem") SetPbem(on);
-    if (action == "passwords") SetPasswords(on);
-    if (action == "aibonus") SetAIBonus(on);
-    return true;
-  }
-  if (action == "ai") {
-    const auto entries = SplitCommas(value);
-    for (std::size_t i = 0; i < entries.size(); ++i) {
-      if (!BoxValue(entries[i], &on, why)) return false;
-      if (!SetHuman(static_cast<int>(i) + 1, !on, why)) return false;
-    }
-    return true;
-  }
-  if (action == "email") {
-    const auto entries = SplitCommas(value);
-    for (std::size_t i = 0; i < entries.size(); ++i)
-      if (!SetEmail(static_cast<int>(i) + 1, entries[i], why)) return false;
-    return true;
-  }
+  // "ai" lists the computer's regimes: 1 = the computer plays it.
+  bool handled = false;
+  const bool applied = ApplyChoice(action, value, "ai", false, why, &handled);
+  if (handled) return applied;
   if (action == "start") return StartButton(why);
   if (action == "cancel") {
     CancelButton();

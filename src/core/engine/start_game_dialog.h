@@ -5,16 +5,15 @@
 
 #include <string>
 
-#include "engine/start_rows.h"
+#include "engine/start_choices.h"
 #include "model/capacity.h"
-#include "platform/platform.h"
 
 namespace mf {
 
 // Rows the dialog has: one per regime, up to the real regime limit.
 constexpr int kStartRows = kSightRegimes;
 
-class StartGameDialog : public HumbleDialog {
+class StartGameDialog : public StartChoices {
  public:
   // Fills the outputs from the stored values and opens the dialog.
   void Prepare();
@@ -35,11 +34,6 @@ class StartGameDialog : public HumbleDialog {
   std::string humanLabel = "Human";
   std::string startCaption = "Start";
   std::string cancelCaption = "Cancel";
-  bool fog = false;
-  bool exploration = false;
-  bool pbem = false;
-  bool passwords = false;
-  bool aiBonus = false;
   RegimeRow rows[kStartRows + 1];  // 1-based; rows above Game.RegimeCount are hidden
 
   // ---- State --------------------------------------------------------------
@@ -49,17 +43,11 @@ class StartGameDialog : public HumbleDialog {
   std::string refusal;      // its message
 
   // ---- The player's actions -------------------------------------------------
-  // Fog of exploration needs fog of war: turning fog off turns exploration off.
-  void SetFog(bool on);
-  // ... and turning exploration on turns fog on.
-  void SetExploration(bool on);
-  void SetPbem(bool on);
-  void SetPasswords(bool on);
-  void SetAIBonus(bool on);
-  // The "Human" choice of a row; a scenario that forbids the computer keeps
-  // every row human. False for a hidden row.
-  bool SetHuman(int row, bool human, std::string* why);
-  bool SetEmail(int row, const std::string& email, std::string* why);
+  // The switches are StartChoices'. The "Human" choice of a row; a scenario
+  // that forbids the computer (engine variable 701 at 1) keeps every row
+  // human. False for a hidden row.
+  bool SetHuman(int row, bool human, std::string* why) override;
+  bool SetEmail(int row, const std::string& email, std::string* why) override;
   // Runs the four checks; the message of the last one that fails is shown and
   // the dialog stays open. When all pass, Game.SpareFlag is cleared and the
   // dialog closes with `started`.
@@ -78,7 +66,7 @@ class StartGameDialog : public HumbleDialog {
 
  private:
   bool Apply(const std::string& action, const std::string& value, std::string* why);
-  void Mirror();
+  void Mirror() override;
 };
 
 }  // namespace mf

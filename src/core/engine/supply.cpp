@@ -240,6 +240,10 @@ void ServeOne(int shq, int r, const ServeMap& m, const std::vector<FloodHex>& fl
   if (q >= 1.0f) {
     newStock = stock + g - d;
     if (newStock > EV(218) && newStock > g * EV(217)) newStock = g * EV(217);
+    // A cap below nothing (a negative rule 217) empties the stock: a stock
+    // below 0 would make the next ratio, and every supply figure from it,
+    // negative.
+    if (newStock < 0) newStock = 0;
   }
   Unit[shq].SupplyPct = Clamp32(newStock);
   Unit[shq].Readiness = 25;

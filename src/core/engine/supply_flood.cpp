@@ -79,10 +79,11 @@ struct Cell {
   Short mark = 0;
 };
 static_assert(sizeof(Cell) == 4);
+// In the order of a FloodHex after its cost, so that a run's result is one
+// copy of the four route fields.
 struct Route {
   Short wave = 0;  // the reach is held to the hexes of the map, so a wave's number fits
-  Short pathLand = 0;
-  Short pathSea = 0, pathPortX = 0, pathPortY = 0;
+  Short pathSea = 0, pathLand = 0, pathPortX = 0, pathPortY = 0;
 };
 static_assert(kMapCap * kMapCap + 1 <= 32767);
 
@@ -536,17 +537,21 @@ void RunFloodResult(std::vector<FloodHex>& out) {
   const int w = MapW(), h = MapH();
   out.resize(static_cast<std::size_t>(w) * static_cast<std::size_t>(h));
   const FloodHex none = fs.edit ? FloodHex{0, 0, 0, 0, 0} : FloodHex{};
-  std::size_t i = 0;
-  for (int x = 1; x <= w; ++x) {
-    const bool columnTouched = x >= fs.loX && x <= fs.hiX;
-    for (int y = 1; y <= h; ++y, ++i) {
-      if (!columnTouched || y < fs.loY || y > fs.hiY) {
-        out[i] = none;
-        continue;
-      }
-      const Route& c = fs.routes[x * kColumn + y];
-      out[i] = FloodHex{fs.cells[x * kColumn + y].mark, c.pathSea, c.pathLand, c.pathPortX, c.pathPortY};
+  FloodHex* o = out.data();
+  for (int x = 1; x <= w; ++x, o += h) {
+    if (x < fs.loX || x > fs.hiX) {
+      std::fill(o, o + h, none);
+      continue;
     }
+    const int y0 = std::max(1, fs.loY), y1 = std::min(h, fs.hiY);
+    std::fill(o, o + (y0 - 1), none);
+    const Cell* cell = &fs.cells[x * kColumn];
+    const Route* route = &fs.routes[x * kColumn];
+    for (int y = y0; y <= y1; ++y) {
+      const Route& r = route[y];
+      o[y - 1] = FloodHex{cell[y].mark, r.pathSea, r.pathLand, r.pathPortX, r.pathPortY};
+    }
+    if (y1 < h) std::fill(o + std::max(y1, 0), o + h, none);
   }
 }
 

@@ -2,7 +2,6 @@
 
 #include <filesystem>
 
-#include "engine/fog_switches.h"
 #include "model/arith.h"
 #include "model/game_state.h"
 #include "model/rnd.h"
@@ -73,11 +72,7 @@ void MakeRandomRegimes() {
 // ---- The dialog ---------------------------------------------------------------
 
 void RandomScenarioDialog::Mirror() {
-  fog = Game.FogOfWar == 1;
-  exploration = Game.FogOfExploration == 1;
-  pbem = Game.PBEM == 1;
-  passwords = Game.UsePasswords == 1;
-  aiBonus = Game.AIProdBonus == 1;
+  MirrorSwitches();
   MirrorRegimeRows(rows, kRandomRows, regimes);
 }
 
@@ -109,31 +104,6 @@ bool RandomScenarioDialog::SetEmail(int row, const std::string& email, std::stri
   if (!ChooseEmail(row, regimes, email, kEmailLimit, why)) return false;
   Mirror();
   return true;
-}
-
-void RandomScenarioDialog::SetFog(bool on) {
-  SetFogOfWar(on);
-  Mirror();
-}
-
-void RandomScenarioDialog::SetExploration(bool on) {
-  SetFogOfExploration(on);
-  Mirror();
-}
-
-void RandomScenarioDialog::SetPbem(bool on) {
-  Game.PBEM = on ? 1 : 0;
-  Mirror();
-}
-
-void RandomScenarioDialog::SetPasswords(bool on) {
-  Game.UsePasswords = on ? 1 : 0;
-  Mirror();
-}
-
-void RandomScenarioDialog::SetAIBonus(bool on) {
-  Game.AIProdBonus = on ? 1 : 0;
-  Mirror();
 }
 
 bool RandomScenarioDialog::Refuse(const std::string& message, std::string* why) {
@@ -208,15 +178,13 @@ void RandomScenarioDialog::CancelButton() {
 }
 
 bool RandomScenarioDialog::Act(const std::string& action, const std::string& value, std::string* why) {
+  // "humans" lists the people's regimes: 1 = a human plays it.
+  bool handled = false;
+  const bool applied = ApplyChoice(action, value, "humans", true, why, &handled);
+  if (handled) return applied;
   bool on = false;
-  if (action == "fog" || action == "exploration" || action == "pbem" || action == "passwords" ||
-      action == "aibonus" || action == "allied" || action == "realstart") {
+  if (action == "allied" || action == "realstart") {
     if (!BoxValue(value, &on, why)) return false;
-    if (action == "fog") SetFog(on);
-    if (action == "exploration") SetExploration(on);
-    if (action == "pbem") SetPbem(on);
-    if (action == "passwords") SetPasswords(on);
-    if (action == "aibonus") SetAIBonus(on);
     if (action == "allied") SetAllied(on);
     if (action == "realstart") SetRealStart(on);
     return true;
@@ -240,20 +208,6 @@ bool RandomScenarioDialog::Act(const std::string& action, const std::string& val
       return false;
     }
     return SetRegimes(static_cast<int>(n), why);
-  }
-  if (action == "humans") {
-    const auto entries = SplitCommas(value);
-    for (std::size_t i = 0; i < entries.size(); ++i) {
-      if (!BoxValue(entries[i], &on, why)) return false;
-      if (!SetHuman(static_cast<int>(i) + 1, on, why)) return false;
-    }
-    return true;
-  }
-  if (action == "email") {
-    const auto entries = SplitCommas(value);
-    for (std::size_t i = 0; i < entries.size(); ++i)
-      if (!SetEmail(static_cast<int>(i) + 1, entries[i], why)) return false;
-    return true;
   }
   if (action == "start") return StartButton(why);
   if (action == "cancel") {

@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "engine/start_rows.h"
+#include "engine/start_choices.h"
 #include "model/capacity.h"
 #include "platform/platform.h"
 #include "platform/scripted_platform.h"
@@ -23,7 +23,7 @@ constexpr const char* kRandomBaseFile = "2PL_Two_Rivers.mf1";
 // regime 1 is played by a human, the others by the computer.
 void MakeRandomRegimes();
 
-class RandomScenarioDialog : public HumbleDialog {
+class RandomScenarioDialog : public StartChoices {
  public:
   static constexpr const char* kCaption = "Random Scenario";
   static constexpr const char* kMapSizeLabel = "MAPSIZE:";
@@ -55,11 +55,8 @@ class RandomScenarioDialog : public HumbleDialog {
   std::string landText = "50";
   int regimes = 4;               // the option button 1..10
   std::string overrideText = "0";
-  bool fog = false;
-  bool exploration = false;
-  bool pbem = false;
-  bool passwords = false;
-  bool aiBonus = false;
+  // The switches of fog, play by e-mail, passwords and the computer's
+  // production bonus are StartChoices'.
   bool allied = false;
   bool realStart = false;
   RegimeRow rows[kRandomRows + 1];  // 1-based; rows above the chosen number of regimes are hidden
@@ -77,16 +74,11 @@ class RandomScenarioDialog : public HumbleDialog {
   // One of the ten option buttons; rows above it are hidden.
   bool SetRegimes(int n, std::string* why);
   // "Human": Regime.AI 0 when set, 1 when cleared; a scenario that forbids
-  // the computer (engine variable 701) says so and keeps the regime human.
-  bool SetHuman(int row, bool human, std::string* why);
+  // the computer (engine variable 701 at any value but 0) says so and keeps
+  // the regime human.
+  bool SetHuman(int row, bool human, std::string* why) override;
   // The address is kept when shorter than 40 characters.
-  bool SetEmail(int row, const std::string& email, std::string* why);
-  // Fog of exploration needs fog of war, in both directions.
-  void SetFog(bool on);
-  void SetExploration(bool on);
-  void SetPbem(bool on);
-  void SetPasswords(bool on);
-  void SetAIBonus(bool on);
+  bool SetEmail(int row, const std::string& email, std::string* why) override;
   void SetAllied(bool on) { allied = on; }
   void SetRealStart(bool on) { realStart = on; }
   // "Start Random Game": the checks, and with all passed the map is made
@@ -105,7 +97,7 @@ class RandomScenarioDialog : public HumbleDialog {
   std::string DefaultAction() const override { return refused ? "cancel" : "start"; }
 
  private:
-  void Mirror();
+  void Mirror() override;
   bool Refuse(const std::string& message, std::string* why);
 };
 

@@ -85,6 +85,24 @@ TEST_F(SupplyTest, WithNoDemandTheStockGrowsUpToItsCap) {
   }
 }
 
+// Found by playing a file whose rule 217 was -1000000: the cap cut the stock
+// below nothing, the next ratio came out hugely negative, and so did the
+// supply, readiness and worth of every formation of the SHQ. A cap below
+// nothing empties the stock instead, and the next turn serves from the towns.
+TEST_F(SupplyTest, ANegativeStockCapEmptiesTheStock) {
+  AddTown(2, 2, 1, 1000, shq);  // G = 100
+  const int f = AddFormation(1, 3, 2, shq, rifles, 10);
+  Unit[f].Readiness = 10;  // demand 100
+  EngineVar[217].Value = -1000000;
+  Unit[shq].SupplyPct = 1200;  // 1200 + 100 - 100 is above 1000: cut to 100 x -1000000
+  ServeSupply();
+  EXPECT_EQ(Unit[f].SupplyPct, 100);
+  EXPECT_EQ(Unit[shq].SupplyPct, 0);
+  ServeSupply();
+  EXPECT_EQ(Unit[f].SupplyPct, 100);  // Q = (100 + 0) / 100
+  EXPECT_EQ(Unit[shq].SupplyPct, 0);
+}
+
 TEST_F(SupplyTest, AnSHQWithoutTownsServesFromItsStockDownToNothing) {
   const int f = AddFormation(1, 3, 2, shq, rifles, 10);
   Unit[f].Readiness = 10;
