@@ -388,7 +388,7 @@ void MainWindow::BuildMenus() {
     if (ThrowAwayGameConfirmed()) mf::NewScenarioCommand();
   });
   AddAction(file, "clearMap", "Clear Map...", [] { mf::ClearMapCommand(); });
-  AddAction(file, "randomScenario", "Random Scenario...", [] { mf::dostartgame(); });
+  AddAction(file, "randomScenario", "Random Scenario...", [] { mf::StartRandomGame(); });
   file->addSeparator();
   AddAction(file, "load", "Load...", [] {
     if (ThrowAwayGameConfirmed()) mf::LoadCommand();
@@ -517,7 +517,7 @@ void MainWindow::Act(const std::function<void()>& command) {
 
 bool MainWindow::OpenFile(const QString& path) {
   bool ok = false;
-  Act([&] { ok = mf::doGoLoad(path.toStdString()); });
+  Act([&] { ok = mf::LoadGameFile(path.toStdString()); });
   return ok;
 }
 

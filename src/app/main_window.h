@@ -58,7 +58,7 @@ class MainWindow : public QMainWindow {
   // Brings every part of the window in line with the UI fields.
   void SyncWithGame();
   // Loads a scenario or saved game as the Load command does after its file
-  // dialog (doGoLoad), and shows it.
+  // dialog (LoadGameFile), and shows it.
   bool OpenFile(const QString& path);
   // Runs a command of the game and syncs; ignored while another command of
   // the player or a timer tick is still running (the game yields to the

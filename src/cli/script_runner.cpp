@@ -275,7 +275,7 @@ bool RandomGame(Run& run, const Words& a, std::string* why) {
     actions.push_back({"start", ""});
     run.platform.QueueDialog("random", std::move(actions));
   }
-  dostartgame();
+  StartRandomGame();
   return true;
 }
 

@@ -243,7 +243,7 @@ TEST_F(HandoverTest, ARefusedLoadLeavesNoStaleMapOrHeader) {
   EngineVar[706].Value = 1;
   const std::string later = TempPath("later.mf2");
   ASSERT_TRUE(WriteFile(later));
-  ASSERT_TRUE(doGoLoad(game));
+  ASSERT_TRUE(LoadGameFile(game));
   window->SyncWithGame();
   ASSERT_GT(Game.Turn, 0);
 

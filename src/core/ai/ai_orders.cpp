@@ -12,7 +12,6 @@
 
 namespace mf {
 
-bool AIValidFront(int f) { return f >= 1 && f <= AI.FrontCount && f <= kFrontCap; }
 bool AILive(long u) { return ValidUnit(static_cast<int>(u)) && u != 0 && Unit[u].Regime != 0; }
 
 void AIFloodWaves(long waves, const AIWaveStep& expand) {

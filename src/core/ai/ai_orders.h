@@ -8,6 +8,7 @@
 #include <functional>
 #include <vector>
 
+#include "ai/ai_state.h"
 #include "model/bounds.h"
 #include "model/game_state.h"
 #include "model/hex_geometry.h"
@@ -28,8 +29,6 @@ void AIWatch(int x, int y);
 // Does nothing while nobody watches.
 void AIShowChange(Long what);
 
-// A front number in use.
-bool AIValidFront(int f);
 // A unit number that names a unit in play.
 bool AILive(long u);
 

@@ -8,6 +8,7 @@
 // AI.FrontStance[f], AI.ListScore[i] and so on.
 #pragma once
 
+#include "model/bounds.h"
 #include "model/game_state.h"
 
 namespace mf {
@@ -74,6 +75,16 @@ struct AIRec {
 };
 
 extern AIRec AI;
+
+// The highest area and front numbers in play, held inside the tables so that
+// a loop over them never reads past one.
+inline int LastArea() { return Held(AI.AreaCount, kAreaCap); }
+inline int LastFront() { return Held(AI.FrontCount, kFrontCap); }
+
+// An area number the tables have room for, whether found this turn or not.
+inline bool ValidArea(long a) { return a >= 1 && a <= kAreaCap; }
+// A front number in use.
+inline bool AIValidFront(long f) { return f >= 1 && f <= LastFront(); }
 
 // Zeroes every working table, the remembered supply ratio included: a clear
 // of the game starts the computer player afresh.

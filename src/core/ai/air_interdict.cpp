@@ -49,7 +49,7 @@ void AIAirInterdict() {
           UI.SelX = tx;
           UI.SelY = ty;
           UI.SelSlot = 1;
-          doInterdict();
+          FlyAirMission();
         }
         UI.Order.InterdictOrder = 0;
         ClearFlood();

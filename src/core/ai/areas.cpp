@@ -12,8 +12,6 @@
 namespace mf {
 namespace {
 
-int Areas() { return Held(AI.AreaCount, kAreaCap); }
-
 bool OnMap(const HexXY& n) { return n.x > 0 && n.y > 0; }
 bool IsSea(const HexRec& h) { return h.Land == kSea; }
 bool IsMountain(const HexRec& h) { return h.Land == kMountain; }
@@ -193,7 +191,7 @@ void CountBorders() {
 // Each area takes the mean of its value and its land neighbours' values, in
 // number order and in place: later areas see values already smoothed.
 void SmoothValues() {
-  const int count = Areas();
+  const int count = LastArea();
   for (int a = 1; a <= count; ++a) {
     std::int64_t sum = AI.AreaValue[a];
     int n = 1;
@@ -275,13 +273,13 @@ void AIFindAreas() {
   FindPockets(m);
   CountBorders();
   SmoothValues();
-  const int count = Areas();
+  const int count = LastArea();
   AIAreaDistances(AI.AreaLandBorder, AI.AreaLandDist, count);
   AIAreaDistances(AI.AreaSeaBorder, AI.AreaSeaDist, count);
 }
 
 void AIAreaStrength() {
-  const int count = Areas();
+  const int count = LastArea();
   for (int a = 1; a <= count; ++a) {
     if (Hex[AI.AreaX[a]][AI.AreaY[a]].Owner == Game.CurRegime) {
       AI.AreaSide[a] = 1;

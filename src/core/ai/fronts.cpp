@@ -15,9 +15,6 @@
 namespace mf {
 namespace {
 
-int Areas() { return Held(AI.AreaCount, kAreaCap); }
-int Fronts() { return Held(AI.FrontCount, kFrontCap); }
-
 // An area number from a table, 0 when it is none or out of range.
 int AreaIndex(long a) { return a > 0 && a <= kAreaCap ? static_cast<int>(a) : 0; }
 const HexRec& CentreOf(long area) {
@@ -95,7 +92,7 @@ void RememberFronts() {
     if (!OwnUnit(u)) continue;
     UnitRec& unit = Unit[u];
     unit.Front = 0;
-    for (int f = 1; f <= Fronts(); ++f)
+    for (int f = 1; f <= LastFront(); ++f)
       if (unit.AIX == OwnArea(f) && unit.AIY == OtherArea(f)) unit.Front = f;
     if (unit.Front == 0) unit.AIX = unit.AIY = 0;
   }
@@ -103,16 +100,16 @@ void RememberFronts() {
 
 void WeighInPerMille() {
   std::int64_t sum = 0;
-  for (int f = 1; f <= Fronts(); ++f) sum += AI.FrontWeight[f];
+  for (int f = 1; f <= LastFront(); ++f) sum += AI.FrontWeight[f];
   if (sum == 0) sum = 1;
-  for (int f = 1; f <= Fronts(); ++f)
+  for (int f = 1; f <= LastFront(); ++f)
     AI.FrontWeight[f] = static_cast<Long>(Int(AI.FrontWeight[f] * 1000.0 / static_cast<double>(sum)));
 }
 
 // Units of an own area without a front go to the area's fronts in turn.
 void DealRoundRobin() {
   std::vector<std::vector<int>> frontsOf(kAreaCap + 1);
-  for (int f = 1; f <= Fronts(); ++f) {
+  for (int f = 1; f <= LastFront(); ++f) {
     const int a = AreaIndex(OwnArea(f));
     if (AI.AreaSide[a] == 1) frontsOf[a].push_back(f);
   }
@@ -138,7 +135,7 @@ void PlaceStrays() {
     const int here = AreaIndex(Hex[x][y].Area);
     int best = 0;
     long bestDist = 999;
-    for (int f = 1; f <= Fronts(); ++f) {
+    for (int f = 1; f <= LastFront(); ++f) {
       const long d = AI.AreaLandDist[here][AreaIndex(OwnArea(f))];
       if (d >= bestDist) continue;  // below 999, and the first of equals stays
       if (CentreOf(OwnArea(f)).Landmass != Hex[x][y].Landmass) continue;
@@ -152,7 +149,7 @@ void PlaceStrays() {
 void CountShares(Assigning& as) {
   ForEachUnitOnMap([&](int x, int y, int u) {
     const int f = static_cast<int>(Unit[u].Front);
-    if (!OwnUnit(u) || f <= 0 || f > Fronts()) return;
+    if (!OwnUnit(u) || !AIValidFront(f)) return;
     const Long p = as.PerMille(x, y, u);
     AI.FrontShare[f] += p;
     AI.FrontStrength[f] += AIUnitWorth(x, y, u, 3);
@@ -173,7 +170,7 @@ void PlaceShips() {
     const int h = AreaIndex(Hex[x][y].Area);
     ListClear();
     for (int n = 1; n <= 5; ++n) {
-      for (int f = 1; f <= Fronts(); ++f) {
+      for (int f = 1; f <= LastFront(); ++f) {
         if (!SeaFront(f)) continue;
         const int own = AreaIndex(OwnArea(f));
         const Long d = AI.AreaSeaDist[h][own];
@@ -185,7 +182,7 @@ void PlaceShips() {
 }
 
 void ShiftStrength(Assigning& as) {
-  const int fronts = Fronts();
+  const int fronts = LastFront();
   for (int r = 2; r <= 4; ++r) {
     for (int n = 1; n <= fronts; ++n) {
       if (!(AI.FrontWeight[n] - 10 > AI.FrontShare[n])) continue;
@@ -229,7 +226,7 @@ void ShiftStrength(Assigning& as) {
 }
 
 void SetStances() {
-  const int fronts = Fronts();
+  const int fronts = LastFront();
   for (int f = 1; f <= fronts; ++f) {
     const int other = AreaIndex(OtherArea(f));
     const double e = AI.AreaEnemyStrength[other];
@@ -256,7 +253,7 @@ void LogAssignment(const Assigning& as) {
   AILog("OPERATIONS:");
   AILog("Unused land strength: " + Str(as.unused));
   AILog("---------------");
-  for (int f = 1; f <= Fronts(); ++f) {
+  for (int f = 1; f <= LastFront(); ++f) {
     AILog("Fr(" + NumText(AI.FrontShare[f]) + "/" + NumText(AI.FrontWeight[f]) + ") :" +
           CentreOf(OwnArea(f)).UrbanName + "<>" + (OtherArea(f) > 0 ? CentreOf(OtherArea(f)).UrbanName : ""));
     AILog(StanceWord(AI.FrontStance[f]));
@@ -275,7 +272,7 @@ bool AIFrontSoft(int front) {
 }
 
 void AIFindFronts() {
-  const int count = Areas();
+  const int count = LastArea();
   for (int a = 1; a <= count; ++a) {
     if (AI.AreaSide[a] != 1) continue;
     bool any = false;
@@ -315,7 +312,7 @@ void AIFindFronts() {
   AILog("");
   AILog("OPERATIONS:");
   AILog("---------------");
-  for (int f = 1; f <= Fronts(); ++f) {
+  for (int f = 1; f <= LastFront(); ++f) {
     const std::string own = CentreOf(OwnArea(f)).UrbanName;
     if (OtherArea(f) > 0)
       AILog("FRONT (" + NumText(AI.FrontWeight[f]) + ") :" + own + " <--> " + CentreOf(OtherArea(f)).UrbanName);
@@ -328,7 +325,7 @@ void AIAssignFronts() {
   Assigning as;
   as.given.assign(static_cast<std::size_t>(kFrontCap) + 1, 0);
   Long strength = 1;
-  for (int a = 1; a <= Areas(); ++a)
+  for (int a = 1; a <= LastArea(); ++a)
     if (AI.AreaSide[a] == 1) strength += AI.AreaOwnStrength[a];
   as.strength = strength;
 
@@ -344,7 +341,7 @@ void AIAssignFronts() {
 }
 
 void AIMoveThqFront() {
-  const int fronts = Fronts();
+  const int fronts = LastFront();
   const int w = MapW(), h = MapH();
   for (int f = 1; f <= fronts; ++f) {
     const long own = OwnArea(f);

@@ -19,8 +19,6 @@ namespace {
 
 constexpr Long kOutOfReach = 999;
 
-bool ValidArea(Long a) { return a >= 1 && a <= kAreaCap; }
-
 // A unit of the regime where it stands.
 struct Place {
   int x = 0, y = 0, slot = 0, unit = 0;
@@ -85,7 +83,7 @@ void AINewShq() {
   const int r = CurrentRegime();
   if (r == 0) return;
   const std::vector<ShqPlace> shqs = AIShqsOnMap(false);
-  const int areas = std::min<int>(AI.AreaCount, kAreaCap);
+  const int areas = LastArea();
   for (int a = 1; a <= areas; ++a) {
     if (AI.AreaSide[a] != 1) continue;
     const int cx = AI.AreaX[a], cy = AI.AreaY[a];
@@ -132,7 +130,7 @@ void AINewShq() {
 void AINewThq() {
   const int r = CurrentRegime();
   if (r == 0) return;
-  for (int f = 1; f <= AI.FrontCount && f <= kFrontCap; ++f) {
+  for (int f = 1; f <= LastFront(); ++f) {
     const Long own = AI.FrontOwnArea[f];
     if (AI.FrontStance[f] <= 0 || !ValidArea(own)) continue;
     const int cx = AI.AreaX[own], cy = AI.AreaY[own];

@@ -97,7 +97,7 @@ void AIAreasToShq() {
   // An area that got its SHQ from a neighbour does not pass it on in the same
   // round, so each SHQ reaches out one step further per round.
   bool received[kAreaCap + 1] = {};
-  const int areas = Held(AI.AreaCount, kAreaCap);
+  const int areas = LastArea();
   for (int n = 1; n <= 5; ++n)
     for (int a = 1; a <= areas; ++a) {
       if (AI.AreaShq[a] == 0 || received[a]) continue;
@@ -150,7 +150,7 @@ void AIShqToShq() {
   if (r == 0) return;
   const std::vector<ShqPlace> shqs = AIShqsOnMap(true);
   std::vector<bool> received(shqs.size(), false);
-  const int areas = Held(AI.AreaCount, kAreaCap);
+  const int areas = LastArea();
   for (std::size_t g = 0; g < shqs.size(); ++g) {
     if (received[g]) continue;
     const ShqPlace& giver = shqs[g];

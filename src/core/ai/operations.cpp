@@ -68,7 +68,7 @@ std::string AIAreaFrontLine(int f) {
 
 void AIOperations() {
   AISupplyRatio();
-  for (int f = 1; f <= AI.FrontCount && f <= kFrontCap; ++f) {
+  for (int f = 1; f <= LastFront(); ++f) {
     // The player is quitting: the turn stops between two fronts.
     if (AI.StopRequested) break;
     const double R = AI.SupplyRatio;

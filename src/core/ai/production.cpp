@@ -116,7 +116,7 @@ void NewOrder(int x, int y, int q, Long total) {
 // The wants of SHQ q from its fronts. True when any front counted.
 bool FrontWants(int q) {
   bool counted = false;
-  for (int f = 1; f <= AI.FrontCount && f <= kFrontCap; ++f) {
+  for (int f = 1; f <= LastFront(); ++f) {
     const Long own = AI.FrontOwnArea[f];
     const Long other = AI.FrontEnemyArea[f];
     if (other <= 0 || other > kAreaCap || own < 1 || own > kAreaCap) continue;
@@ -187,7 +187,7 @@ void AirWants(int q) {
 
 // Trucks for the slow units of attacking fronts on one landmass.
 void MobilityWants(int q) {
-  for (int f = 1; f <= AI.FrontCount && f <= kFrontCap; ++f) {
+  for (int f = 1; f <= LastFront(); ++f) {
     const Long own = AI.FrontOwnArea[f];
     const Long other = AI.FrontEnemyArea[f];
     if (AI.FrontStance[f] <= 2 || other <= 0 || other > kAreaCap || own < 1 || own > kAreaCap) continue;

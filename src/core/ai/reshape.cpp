@@ -150,7 +150,7 @@ bool AIClassesFit(int a, int b) {
 }
 
 void AIUnitSplitMerge() {
-  for (int f = 1; f <= AI.FrontCount && f <= kFrontCap; ++f) {
+  for (int f = 1; f <= LastFront(); ++f) {
     if (AI.FrontBalance[f] > 0 || AI.FrontStance[f] == 0) Split(f);
     if (AI.FrontBalance[f] < 0) Merge(f);
   }

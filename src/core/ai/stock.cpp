@@ -21,8 +21,6 @@ namespace {
 
 constexpr Long kOutOfReach = 999;
 
-bool ValidArea(Long a) { return a >= 1 && a <= kAreaCap; }
-bool ValidFront(Long f) { return f >= 1 && f <= AI.FrontCount && f <= kFrontCap; }
 
 struct Place {
   int x = 0, y = 0, slot = 0;
@@ -115,7 +113,7 @@ template <class F>
 void ForFrontFormations(Long shqArea, F f) {
   ForLandFormations([&](int x, int y, int u) {
     const Long front = Unit[u].Front;
-    if (!ValidFront(front) || !FrontLinked(front, shqArea)) return;
+    if (!AIValidFront(front) || !FrontLinked(front, shqArea)) return;
     if (Unit[u].SupplyPct <= 0 && Unit[u].InfQty > 0) return;
     f(x, y, u, front);
   });
@@ -167,7 +165,7 @@ void AIStockArt() {
       const UnitRec& un = Unit[u];
       Long score = 100;
       if (un.Thq > 0) score -= 3;
-      if (ValidFront(un.Front)) {
+      if (AIValidFront(un.Front)) {
         static const Long kByStance[5] = {0, 4, 6, 8, 6};
         const Long stance = AI.FrontStance[un.Front];
         if (stance >= 1 && stance <= 4) score += kByStance[stance];
@@ -202,7 +200,7 @@ void AIStockMob() {
     SupplyFlood(true);
     ListClear();
     ForLandFormations([&](int x, int y, int u) {
-      if (Unit[u].SupplyPct <= 0 || !ValidFront(Unit[u].Front) || Hex[x][y].Mark >= kOutOfReach) return;
+      if (Unit[u].SupplyPct <= 0 || !AIValidFront(Unit[u].Front) || Hex[x][y].Mark >= kOutOfReach) return;
       ListAdd(u, 0, 600 - UnitMaxMoveOf(u, true));
     });
     // The SHQ keeps the trucks it needs to carry its own infantry and guns.
@@ -276,7 +274,7 @@ void BuildFromStock(int theater, int cls, Score score) {
     if (k == 0) continue;
     const Long shqArea = Hex[q.x][q.y].Area;
     Long bestArea = 0, best = 0;
-    for (int f = 1; f <= AI.FrontCount && f <= kFrontCap; ++f) {
+    for (int f = 1; f <= LastFront(); ++f) {
       const Long own = AI.FrontOwnArea[f];
       if (!ValidArea(own)) continue;
       if (own != shqArea) {

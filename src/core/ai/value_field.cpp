@@ -12,7 +12,6 @@ namespace mf {
 namespace {
 
 bool OnMap(HexXY n) { return n.x > 0 && n.y > 0; }
-bool ValidArea(long a) { return a >= 1 && a <= kAreaCap; }
 
 // Land that units walk on: neither sea nor mountain.
 bool Walkable(const HexRec& h) { return h.Land != kSea && h.Land != kMountain; }

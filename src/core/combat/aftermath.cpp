@@ -8,6 +8,7 @@
 #include "model/arith.h"
 #include "model/hex_geometry.h"
 #include "model/rnd.h"
+#include "model/type_lookup.h"
 #include "orders/new_units.h"
 
 namespace mf {
@@ -16,7 +17,6 @@ namespace {
 constexpr int kSoundVictory = 32;
 constexpr int kMarkDestroyed = 9;
 
-bool NothingLeft(const UnitRec& u) { return u.InfQty < 1 && u.MobQty < 1 && u.ArtQty < 1 && u.ArmQty < 1; }
 
 Long CappedAdd(Long value, long long add, long long cap) {
   const long long v = value + add;
@@ -121,7 +121,7 @@ void BreakOff(const Engagement& e, int pass) {
 void LandAttackerFate(const Engagement& e, int& pass) {
   const BattleState& b = TheBattle;
   UnitRec& a = Unit[e.attacker];
-  const bool obliterated = NothingLeft(a) || (b.landing && a.InfQty < 1 && a.ArmQty < 1);
+  const bool obliterated = NoTroops(a) || (b.landing && a.InfQty < 1 && a.ArmQty < 1);
   if (obliterated) {
     if (a.ArtQty > 0) ApplyLoss(e.attacker, e.target, kLossArtillery, 3, a.ArtQty);
     if (a.MobQty > 0) ApplyLoss(e.attacker, e.target, kLossArtillery, 2, a.MobQty);
@@ -261,7 +261,7 @@ bool Aftermath(const Engagement& e, int& pass) {
   if (Unit[e.attacker].Theater == kLandTheater) LandAttackerFate(e, pass);
   if (Unit[e.target].Theater == kLandTheater) {
     LandTargetFate(e);
-  } else if (NothingLeft(Unit[e.target])) {
+  } else if (NoTroops(Unit[e.target])) {
     // Ships and aircraft do not retreat: they go down.
     UnitRec& t = Unit[e.target];
     AddNews(static_cast<int>(t.Regime), e.target, kNewsLost, "", b.tx, b.ty, 0);
@@ -270,7 +270,7 @@ bool Aftermath(const Engagement& e, int& pass) {
     b.stackSize -= 1;
     t.Regime = 0;
   }
-  if (Unit[e.attacker].Theater == kSeaTheater && Unit[e.attacker].Regime != 0 && NothingLeft(Unit[e.attacker])) {
+  if (Unit[e.attacker].Theater == kSeaTheater && Unit[e.attacker].Regime != 0 && NoTroops(Unit[e.attacker])) {
     AddBattleLine(Unit[e.attacker].Name + " is obliterated.", b.delay);
     RemoveAttacker(e, pass);
   }

@@ -59,7 +59,6 @@ double HitPoints(long type) {
   return h > 0 ? h : 1.0;
 }
 
-bool NothingLeft(const UnitRec& u) { return u.InfQty < 1 && u.MobQty < 1 && u.ArtQty < 1 && u.ArmQty < 1; }
 
 bool AtWarWithMover(long regime) {
   const long cur = Game.CurRegime;
@@ -123,7 +122,7 @@ void Intercept(Flight& f, int interceptor, int carrier, int x, int y) {
          "Defender (interceptor) lost ", " fighters.", f.delay);
 
     // 5. An interceptor with nothing left is gone.
-    const bool dead = NothingLeft(i);
+    const bool dead = NoTroops(i);
     if (dead) {
       if (carrier != 0) {
         Unit[carrier].Cargo = 0;
@@ -365,7 +364,7 @@ void Interdiction(Flight& f) {
 
   // 9. A formation with nothing left is gone; an SHQ stays, whatever it lost.
   UnitRec& target = Unit[f.target];
-  if (target.Regime != 0 && target.Shq <= 0 && NothingLeft(target)) {
+  if (target.Regime != 0 && target.Shq <= 0 && NoTroops(target)) {
     const int owner = static_cast<int>(hex.Owner);
     AddNews(static_cast<int>(target.Regime), f.target, kNewsLost, "", f.tx, f.ty, 0);
     AddNews(owner, 0, kNewsMapMark, "", f.tx, f.ty, kMarkDestroyed);
@@ -385,7 +384,7 @@ void Interdiction(Flight& f) {
 
 void MissionUnitFate(const Flight& f) {
   UnitRec& m = Unit[f.unit];
-  if (m.Regime == 0 || !NothingLeft(m)) return;
+  if (m.Regime == 0 || !NoTroops(m)) return;
   if (f.carrier != 0) {
     Unit[f.carrier].Cargo = 0;
   } else {
@@ -442,7 +441,7 @@ long long AntiAirPoints(int tx, int ty, long side, long owner) {
   return points;
 }
 
-void doInterdict() {
+void FlyAirMission() {
   Flight f;
   f.mission = MissionUnderWay();
   f.bombing = f.mission == Mission::kInterdict || f.mission == Mission::kStrategic;

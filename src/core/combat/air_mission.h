@@ -17,7 +17,7 @@ namespace mf {
 // Writes the battle log, changes units and the town, and keeps the tallies,
 // as a battle does. The refusals are the orders' own; this assumes a valid
 // mission.
-void doInterdict();
+void FlyAirMission();
 
 // The unit that flies the mission of the registers above: the origin slot's
 // unit, or its air cargo. 0 for none.

@@ -26,10 +26,10 @@ struct Opener {
 };
 const Opener kOpeners[] = {
     {"status", &DoStatus},
-    {"general", &doGeneral},
-    {"currentunit", &docurrent},
-    {"regimes", &doregimes},
-    {"types", &dotypes},
+    {"general", &OpenGeneralDialog},
+    {"currentunit", &OpenCurrentUnitDialog},
+    {"regimes", &OpenRegimesDialog},
+    {"types", &OpenTypesDialog},
 };
 
 }  // namespace

@@ -2,6 +2,7 @@
 
 #include "engine/show_supply.h"
 #include "model/game_state.h"
+#include "model/order_registers.h"
 #include "model/reset.h"
 
 namespace mf {
@@ -22,7 +23,6 @@ Long& SwitchField(DisplaySwitch which) {
 }
 
 bool GameInPlay() { return Game.Turn > 0; }
-bool Editing() { return UI.EditMode == 1; }
 
 }  // namespace
 

@@ -193,7 +193,7 @@ bool NewTurnDialog::Act(const std::string& action, const std::string& value, std
   return false;
 }
 
-void doNewTurnForm() {
+void RunNewTurnDialog() {
   NewTurnDialog dialog;
   dialog.Prepare();
   Plat().RunDialog(dialog);

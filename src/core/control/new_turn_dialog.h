@@ -84,6 +84,6 @@ std::string NextHumanEmail();
 // it closes with the password accepted, and not by a request to leave, the
 // surrender and resignation notices of the news list are shown. A request to
 // leave sets UI.ExitAfterTurnForm.
-void doNewTurnForm();
+void RunNewTurnDialog();
 
 }  // namespace mf

@@ -226,9 +226,9 @@ void AttackButton() {
 
 void ProductionButton() { UrbanProduction(); }
 void NewUnitButton() { NewCommand(); }
-void OfficerPoolButton() { doPool(); }
-void ResearchButton() { doRes(); }
-void DiplomaticsButton() { doDip(); }
+void OfficerPoolButton() { OpenOfficerPoolDialog(); }
+void ResearchButton() { OpenResearchDialog(); }
+void DiplomaticsButton() { OpenDiplomaticsDialog(); }
 void DisbandButton() { doDisband(); }
 
 void CommandButton() {

@@ -46,7 +46,7 @@ bool MakeRandomScenario(std::string* refusal) {
   return dialog.made;
 }
 
-bool dostartgame() {
+bool StartRandomGame() {
   const bool made = MakeRandomScenario();
   LayOutMapWindow();
   if (made) BeginFirstTurn();

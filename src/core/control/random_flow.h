@@ -23,6 +23,6 @@ bool MakeRandomScenario(std::string* refusal = nullptr);
 // The File menu's "Random Scenario": the dialog, and when a map was made the
 // window laid out for it and the first turn begun. Its result is whether a
 // game was made.
-bool dostartgame();
+bool StartRandomGame();
 
 }  // namespace mf

@@ -84,7 +84,7 @@ bool ReadFile(const std::string& path) {
   return true;
 }
 
-bool doGoLoad(const std::string& path) {
+bool LoadGameFile(const std::string& path) {
   // A file that stands but cannot be read (a folder, a device, no
   // permission) is refused before the game in memory is cleared.
   std::string why;
@@ -168,7 +168,7 @@ void LoadCommand() {
     Plat().ShowMessage("Load canceled", "");
     return;
   }
-  if (!doGoLoad(path)) return;
+  if (!LoadGameFile(path)) return;
   // A campaign file opened from the menu by a player (an author with the
   // editor panel showing opens it as an ordinary map).
   if (EV(704) != 0 && Game.Turn == 0 && UI.HideEditor) {
@@ -218,7 +218,7 @@ void LoadMenuScenario(int n) {
     const std::string withExt = ResolveGamePath(name + ".mf1");
     if (FileExists(withExt)) path = withExt;
   }
-  doGoLoad(path);
+  LoadGameFile(path);
 }
 
 }  // namespace mf

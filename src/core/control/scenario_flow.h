@@ -10,7 +10,7 @@ namespace mf {
 // detection, newer-version refusal, repairs, leaving the file scrambled).
 bool ReadFile(const std::string& path);
 // Clear, read, and set the game up to go on.
-bool doGoLoad(const std::string& path);
+bool LoadGameFile(const std::string& path);
 // Takes the rule set of a file into the current game.
 bool ImportFile(const std::string& path);
 // The same rule set taken from a file that stays as it is on disk (it may

@@ -21,6 +21,7 @@
 #include "model/game_state.h"
 #include "model/hex_geometry.h"
 #include "model/reset.h"
+#include "model/type_lookup.h"
 #include "orders/flood.h"
 #include "orders/movement.h"
 #include "orders/new_units.h"
@@ -161,7 +162,6 @@ void RecoveryAndTowns() {
   }
 }
 
-bool UnitIsEmpty(const UnitRec& u) { return u.InfQty < 1 && u.MobQty < 1 && u.ArtQty < 1 && u.ArmQty < 1; }
 
 // Step 2 of EndCurrentTurn: formations with nobody left in them are disbanded,
 // whoever they belong to. An SHQ stays: it is a headquarters, not troops.
@@ -171,7 +171,7 @@ void DisbandEmptyUnits() {
       Long* stack = Hex[x][y].Unit;
       for (int slot = 1; slot <= kStackSlots; ++slot) {
         const int u = stack[slot];
-        if (!ValidUnit(u) || Unit[u].Shq != 0 || !UnitIsEmpty(Unit[u])) continue;
+        if (!ValidUnit(u) || Unit[u].Shq != 0 || !NoTroops(Unit[u])) continue;
         const int o = Unit[u].Officer;
         if (o >= 1 && o <= kOfficerCap) Officer[o].InPool = 1;
         Unit[u].Officer = 0;
@@ -280,8 +280,8 @@ void NextTurn() {
     if (EV(704) == 1) ShowEventsOfThisTurn();
     // An event named the next scenario of the campaign: the timer loads it.
     if (UI.PendingFile.size() > 1) return;
-    Step("doNewTurnForm");
-    doNewTurnForm();
+    Step("RunNewTurnDialog");
+    RunNewTurnDialog();
     if (UI.ExitAfterTurnForm) {
       UI.ExitAfterTurnForm = false;
       EndGameToEmptyMap();

@@ -30,7 +30,7 @@ void TimerTick();
 bool EndTurnAsks();
 
 // Watches the turn cycle: called with the name of each routine of another
-// subsystem just before the turn cycle calls it ("RunEvents", "doNewTurnForm",
+// subsystem just before the turn cycle calls it ("RunEvents", "RunNewTurnDialog",
 // "HexCapture", "ServeSupply", "RecoveryPass 3,4,1", "TownOutput 3,4",
 // "PoolTransport", "ClearFlood", "SightPass", "AITurn", "DropThq 12",
 // "DoShowEvent 5"). Tests follow the order of a turn with it; play leaves it empty.

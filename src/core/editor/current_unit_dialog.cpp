@@ -213,7 +213,7 @@ bool CurrentUnitDialog::Act(const std::string& action, const std::string& value,
   return false;
 }
 
-void docurrent() {
+void OpenCurrentUnitDialog() {
   const int u = [] {
     if (!ValidHex(UI.SelX, UI.SelY) || UI.SelSlot < 1 || UI.SelSlot > kStackSlots) return 0;
     return static_cast<int>(Hex[UI.SelX][UI.SelY].Unit[UI.SelSlot]);

@@ -67,6 +67,6 @@ class CurrentUnitDialog : public HumbleDialog {
 
 // Opens the Current Unit dialog for the selected formation from the Edit
 // menu and waits until it closes; nothing without one.
-void docurrent();
+void OpenCurrentUnitDialog();
 
 }  // namespace mf

@@ -317,7 +317,7 @@ bool GeneralDialog::Act(const std::string& action, const std::string& value, std
   return ok;
 }
 
-void doGeneral() {
+void OpenGeneralDialog() {
   GeneralDialog dialog;
   dialog.Prepare();
   Plat().RunDialog(dialog);

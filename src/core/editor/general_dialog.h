@@ -87,6 +87,6 @@ class GeneralDialog : public HumbleDialog {
 };
 
 // Opens the General dialog from the Edit menu and waits until it closes.
-void doGeneral();
+void OpenGeneralDialog();
 
 }  // namespace mf

@@ -9,6 +9,7 @@
 #include "model/cleared_with_tables.h"
 #include "model/game_state.h"
 #include "model/hex_geometry.h"
+#include "model/order_registers.h"
 #include "orders/order_buttons.h"
 #include "platform/platform.h"
 
@@ -28,7 +29,6 @@ constexpr const char* kNoLandscape = "Select a landscape type in the listbox rig
 constexpr int kNameLimit = 20;
 constexpr Long kPopLimit = 250000;
 
-bool Editing() { return UI.EditMode == 1; }
 
 // What painting can change of a hex: kept before and after each hex of a stroke.
 struct HexPaint {

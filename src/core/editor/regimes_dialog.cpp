@@ -345,7 +345,7 @@ bool RegimesDialog::Act(const std::string& action, const std::string& value, std
   return true;
 }
 
-void doregimes() {
+void OpenRegimesDialog() {
   RegimesDialog dialog;
   dialog.Prepare();
   Plat().RunDialog(dialog);

@@ -82,6 +82,6 @@ class RegimesDialog : public HumbleDialog {
 std::string ColourText(long bgr);
 
 // Opens the Regimes dialog from the Edit menu and waits until it closes.
-void doregimes();
+void OpenRegimesDialog();
 
 }  // namespace mf

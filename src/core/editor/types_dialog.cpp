@@ -147,7 +147,7 @@ void TypesDialog::OverrideButton() {
 }
 
 void TypesDialog::InfoButton() {
-  if (selected != 0) doinfo(selected);
+  if (selected != 0) OpenTypeInfoDialog(selected);
 }
 
 void TypesDialog::SetName(const std::string& text) {
@@ -304,7 +304,7 @@ bool TypesDialog::Act(const std::string& action, const std::string& value, std::
   return true;
 }
 
-void dotypes() {
+void OpenTypesDialog() {
   TypesDialog dialog;
   dialog.Prepare();
   Plat().RunDialog(dialog);

@@ -87,6 +87,6 @@ class TypesDialog : public HumbleDialog {
 };
 
 // Opens the Types dialog from the Edit menu and waits until it closes.
-void dotypes();
+void OpenTypesDialog();
 
 }  // namespace mf

@@ -67,9 +67,7 @@ void DipEditPair(int speaker, int other) {
   Dip[other][speaker].Cost = cost;
 }
 
-void doDipUpdate(DiplomaticsDialog& dialog) { dialog.Refill(); }
-
-void doDip() {
+void OpenDiplomaticsDialog() {
   const bool editing = UI.EditMode == 1;
   const int speaker = Speaker(editing);
   if (!ValidRegime(speaker)) return;

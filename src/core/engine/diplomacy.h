@@ -5,17 +5,13 @@
 
 namespace mf {
 
-class DiplomaticsDialog;
-
 // A price that can never be paid: the relation of the pair is fixed.
 constexpr int kDipFixedCost = 999;
 
 // Opens the Diplomatics dialog for Game.CurRegime. In the editor, where no
 // regime has the turn, it speaks for the owner of the selected hex, and does
 // not open over a hex without an owner.
-void doDip();
-// Refills the open dialog from the relation table.
-void doDipUpdate(DiplomaticsDialog& dialog);
+void OpenDiplomaticsDialog();
 
 // True when regimes a and b are at peace (Dip.Relation 1). Anything else,
 // including a pair outside the table, counts as war.

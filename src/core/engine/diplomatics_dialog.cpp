@@ -64,7 +64,7 @@ bool DiplomaticsDialog::PressRow(int regime, std::string* why) {
   } else {
     DipChangeRelation(speaker, regime);
   }
-  doDipUpdate(*this);
+  Refill();
   return true;
 }
 

@@ -6,11 +6,11 @@
 #include "model/bounds.h"
 #include "model/game_state.h"
 #include "model/rnd.h"
+#include "platform/say.h"
 
 namespace mf {
 namespace {
 
-void Say(const std::string& text) { Plat().ShowMessage(text, ""); }
 
 bool ValidOfficer(long o) { return o >= 1 && o <= kOfficerCap; }
 
@@ -388,7 +388,7 @@ bool OfficerPoolDialog::Act(const std::string& action, const std::string& value,
   return false;
 }
 
-void doPool() {
+void OpenOfficerPoolDialog() {
   const bool editing = UI.EditMode == 1;
   if (editing) {
     // The editor has no regime to move: the pool is that of the selected

@@ -107,6 +107,6 @@ class OfficerPoolDialog : public HumbleDialog {
 // editor the regime is first taken from the selected formation (or the
 // hex's owner), the editor's buttons are shown, and closing leaves
 // Game.CurRegime at 0 again.
-void doPool();
+void OpenOfficerPoolDialog();
 
 }  // namespace mf

@@ -7,10 +7,10 @@
 namespace mf {
 namespace {
 
-bool ValidField(long long field) { return field >= 1 && field <= kResearchCap; }
-
 // A need that names a field the regime does not hold.
-bool NeedMissing(int regime, Long need) { return ValidField(need) && !FieldKnown(regime, static_cast<int>(need)); }
+bool NeedMissing(int regime, Long need) {
+  return ValidResearchField(need) && !FieldKnown(regime, static_cast<int>(need));
+}
 
 // The formation selected on the map, 0 for none.
 int SelectedUnit() {
@@ -22,11 +22,11 @@ int SelectedUnit() {
 }  // namespace
 
 bool FieldKnown(int regime, int field) {
-  return ValidRegime(regime) && ValidField(field) && Regime[regime].Research[field] > 0;
+  return ValidRegime(regime) && ValidResearchField(field) && Regime[regime].Research[field] > 0;
 }
 
 bool FieldNeedMissing(int regime, int field) {
-  if (!ValidField(field)) return false;
+  if (!ValidResearchField(field)) return false;
   return NeedMissing(regime, Research[field].Need1) || NeedMissing(regime, Research[field].Need2);
 }
 
@@ -34,11 +34,11 @@ bool TypeResearchKnown(int regime, int type) {
   if (!ValidType(type)) return false;
   const Long field = Type[type].Research;
   if (field == 0) return true;
-  return ValidField(field) && FieldKnown(regime, static_cast<int>(field));
+  return ValidResearchField(field) && FieldKnown(regime, static_cast<int>(field));
 }
 
 std::string ResearchOfferLine(int regime, int field) {
-  if (!ValidField(field)) return std::string();
+  if (!ValidResearchField(field)) return std::string();
   const ResearchRec& f = Research[field];
   return (FieldNeedMissing(regime, field) ? "***" : "") + f.Name + " (" + NumText(f.Cost) + ")";
 }
@@ -46,7 +46,7 @@ std::string ResearchOfferLine(int regime, int field) {
 bool BuyResearch(int regime, int field, bool editing) {
   // Without a selection the button does nothing; nor without a regime to
   // buy for (the editor opened on no formation).
-  if (!ValidField(field) || !ValidRegime(regime)) return false;
+  if (!ValidResearchField(field) || !ValidRegime(regime)) return false;
   if (FieldKnown(regime, field)) {
     Plat().ShowMessage("You already have this research field", "");
     return false;
@@ -75,7 +75,7 @@ bool BuyResearch(int regime, int field, bool editing) {
   return true;
 }
 
-void doRes() {
+void OpenResearchDialog() {
   const bool editing = UI.EditMode == 1;
   if (editing) {
     const int u = SelectedUnit();

@@ -5,12 +5,17 @@
 
 #include <string>
 
+#include "model/capacity.h"
+
 namespace mf {
+
+// A number that names a field of the research table.
+inline bool ValidResearchField(long long field) { return field >= 1 && field <= kResearchCap; }
 
 // Opens the Research dialog for Game.CurRegime. In the editor the regime is
 // first taken from the selected formation, the editing buttons are shown,
 // and closing leaves Game.CurRegime at 0 again.
-void doRes();
+void OpenResearchDialog();
 
 // True when `regime` holds research field `field` (Regime.Research above 0).
 // A field or regime outside the tables is held by nobody.

@@ -11,8 +11,6 @@ namespace {
 
 const char* const kOutOfRange = "between 1 and resmax plz.. exiting sub";
 
-bool ValidField(long long field) { return field >= 1 && field <= kResearchCap; }
-
 int IndexIn(const std::vector<int>& fields, int field) {
   const auto it = std::find(fields.begin(), fields.end(), field);
   return it == fields.end() ? -1 : static_cast<int>(it - fields.begin());
@@ -53,12 +51,12 @@ void ResearchDialog::Refill() {
   detailNumber.clear();
   costValue.clear();
   textValue.clear();
-  if (ValidField(selected)) {
+  if (ValidResearchField(selected)) {
     const ResearchRec& f = Research[selected];
     detailText = f.Text;
     detailName = f.Name + " (" + NumText(f.Cost) + ")";
-    if (ValidField(f.Need1)) detailNeed1 = "NEED1: " + Research[f.Need1].Name;
-    if (ValidField(f.Need2)) detailNeed2 = "NEED2: " + Research[f.Need2].Name;
+    if (ValidResearchField(f.Need1)) detailNeed1 = "NEED1: " + Research[f.Need1].Name;
+    if (ValidResearchField(f.Need2)) detailNeed2 = "NEED2: " + Research[f.Need2].Name;
     detailNumber = "NR: " + NumText(selected);
     costValue = NumText(f.Cost);
     textValue = f.Text;
@@ -90,9 +88,9 @@ void ResearchDialog::DeleteButton() {
 
 void ResearchDialog::NumberButton() {
   const std::string answer =
-      Plat().InputPrompt("Research field #", "", ValidField(selected) ? NumText(selected) : std::string());
+      Plat().InputPrompt("Research field #", "", ValidResearchField(selected) ? NumText(selected) : std::string());
   const Long field = ValLong(answer);
-  if (!ValidField(field)) {
+  if (!ValidResearchField(field)) {
     Plat().ShowMessage(kOutOfRange, "");
     return;
   }
@@ -101,7 +99,7 @@ void ResearchDialog::NumberButton() {
 }
 
 void ResearchDialog::NameButton() {
-  if (!ValidField(selected)) return;
+  if (!ValidResearchField(selected)) return;
   const std::string answer = Plat().InputPrompt("Research field name", "", Research[selected].Name);
   // A cancelled prompt keeps the name; Wipe is the way to empty a field.
   if (answer.empty()) return;
@@ -110,13 +108,13 @@ void ResearchDialog::NameButton() {
 }
 
 void ResearchDialog::NeedButton(int which) {
-  if (!ValidField(selected)) return;
+  if (!ValidResearchField(selected)) return;
   Long& need = which == 2 ? Research[selected].Need2 : Research[selected].Need1;
   const std::string answer =
       Plat().InputPrompt(which == 2 ? "Field needed 2" : "Field needed 1", "", NumText(need));
   // A need is a field number, or 0 for none.
   const Long field = ValLong(answer);
-  if (field != 0 && !ValidField(field)) {
+  if (field != 0 && !ValidResearchField(field)) {
     Plat().ShowMessage(kOutOfRange, "");
     return;
   }
@@ -125,7 +123,7 @@ void ResearchDialog::NeedButton(int which) {
 }
 
 void ResearchDialog::WipeButton() {
-  if (!ValidField(selected)) return;
+  if (!ValidResearchField(selected)) return;
   ResearchRec& f = Research[selected];
   f.Name.clear();
   f.Need1 = 0;
@@ -136,13 +134,13 @@ void ResearchDialog::WipeButton() {
 }
 
 void ResearchDialog::SetCost(const std::string& value) {
-  if (!ValidField(selected)) return;
+  if (!ValidResearchField(selected)) return;
   Research[selected].Cost = ValLong(value);
   Refill();
 }
 
 void ResearchDialog::SetText(const std::string& value) {
-  if (!ValidField(selected)) return;
+  if (!ValidResearchField(selected)) return;
   Research[selected].Text = value;
   Refill();
 }

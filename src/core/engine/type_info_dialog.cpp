@@ -77,7 +77,7 @@ bool TypeInfoDialog::Act(const std::string& action, const std::string&, std::str
   return true;
 }
 
-void doinfo(int t) {
+void OpenTypeInfoDialog(int t) {
   TypeInfoDialog dialog;
   dialog.Prepare(t);
   if (dialog.IsOpen()) Plat().RunDialog(dialog);

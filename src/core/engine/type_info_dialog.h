@@ -49,6 +49,6 @@ std::string JoinLines(const std::vector<std::string>& lines);
 
 // Shows the Info dialog of type t and waits until it is closed; nothing for
 // a type outside 1..Game.TypeCount.
-void doinfo(int t);
+void OpenTypeInfoDialog(int t);
 
 }  // namespace mf

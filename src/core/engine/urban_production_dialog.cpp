@@ -213,7 +213,7 @@ bool UrbanProductionDialog::ShowInfo(std::string* why) {
     *why = "no unit type is selected";
     return false;
   }
-  doinfo(typeOfRow[typeRow]);
+  OpenTypeInfoDialog(typeOfRow[typeRow]);
   return true;
 }
 

@@ -340,7 +340,12 @@ inline bool ValidUnit(int u) { return u >= 1 && u <= kUnitCap; }
 inline bool ValidType(int t) { return t >= 1 && t <= kTypeCap; }
 inline bool ValidRegime(int r) { return r >= 1 && r <= kRegimeCap; }
 
-// Sets every table to its zero state, as at program start.
+// Sets every table to its zero state, as at program start, and puts back to
+// their start the globals of one game that live outside the tables (the
+// battle being fought, the order buttons, the side panel, the floods'
+// working fields, the computer player's tables...), each registered for it
+// in model/cleared_with_tables.h, so that nothing of one game reaches the
+// next.
 void ZeroAllTables();
 
 // Find a free unit: first unit 1..2000 with Regime 0; clears its Thq, Shq,

@@ -24,4 +24,7 @@ inline std::int64_t AttrOf(Long t, int attr) { return ValidType(t) ? Type[t].Att
 // formation.
 std::int64_t UnitAttrTotal(int u, int attr);
 
+// A formation with no troops left in any of its four classes.
+inline bool NoTroops(const UnitRec& u) { return u.InfQty < 1 && u.MobQty < 1 && u.ArtQty < 1 && u.ArmQty < 1; }
+
 }  // namespace mf

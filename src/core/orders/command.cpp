@@ -5,22 +5,16 @@
 #include "model/arith.h"
 #include "model/counter_pic.h"
 #include "model/game_state.h"
+#include "model/order_registers.h"
 #include "model/stack.h"
 #include "orders/new_units.h"
 #include "orders/order_buttons.h"
 #include "platform/platform.h"
+#include "platform/say.h"
 
 namespace mf {
 namespace {
 
-void Say(const std::string& text) { Plat().ShowMessage(text, ""); }
-bool Editing() { return UI.EditMode == 1; }
-
-int UnitAt(long x, long y, long slot) {
-  if (!ValidHex(static_cast<int>(x), static_cast<int>(y)) || slot < 1 || slot > kStackSlots) return 0;
-  const long u = Hex[x][y].Unit[slot];
-  return ValidUnit(static_cast<int>(u)) ? static_cast<int>(u) : 0;
-}
 
 // The change of command is over: the selection goes back to the formation
 // that got (or did not get) its new boss, and the buttons are as at rest.

@@ -9,11 +9,11 @@
 #include "orders/flood.h"
 #include "orders/order_buttons.h"
 #include "platform/platform.h"
+#include "platform/say.h"
 
 namespace mf {
 namespace {
 
-void Say(const std::string& text) { Plat().ShowMessage(text, ""); }
 
 // The SHQ that pays for a formation's works: its boss, or its boss's boss.
 int PayingShq(int u) {

@@ -6,14 +6,13 @@
 #include "model/counter_pic.h"
 #include "model/game_state.h"
 #include "model/hex_geometry.h"
+#include "model/order_registers.h"
 #include "model/stack.h"
 #include "orders/order_buttons.h"
 
 namespace mf {
 namespace {
 
-bool Editing() { return UI.EditMode == 1; }
-bool PlaceOnMap() { return ValidHex(static_cast<int>(UI.SelX), static_cast<int>(UI.SelY)); }
 
 // Price in political points of each kind of unit.
 long CostOf(int kind) {
@@ -39,7 +38,7 @@ std::string HqName(bool askName, const std::string& question, const std::string&
 
 // The free stack slot of the place, 0 when slot 3 is taken.
 int FreeSlot() {
-  if (!PlaceOnMap()) return 0;
+  if (!SelectionOnMap()) return 0;
   const int slot = StackCount(static_cast<int>(UI.SelX), static_cast<int>(UI.SelY)) + 1;
   return slot <= kStackSlots ? slot : 0;
 }
@@ -82,7 +81,7 @@ std::string Ordinal(long n) {
 
 int NewFormation(int theater) {
   const int r = CurrentRegime();
-  if (r == 0 || !PlaceOnMap()) return 0;
+  if (r == 0 || !SelectionOnMap()) return 0;
   const int u = NewUnitNumber();
   if (u == 0) return 0;
   const int slot = FreeSlot();
@@ -100,7 +99,7 @@ int NewFormation(int theater) {
 
 int NewThq(bool askName) {
   const int r = CurrentRegime();
-  if (r == 0 || !PlaceOnMap()) return 0;
+  if (r == 0 || !SelectionOnMap()) return 0;
   const int u = NewUnitNumber();
   if (u == 0) return 0;
   const int slot = FreeSlot();
@@ -119,7 +118,7 @@ int NewThq(bool askName) {
 
 int NewShq(bool askName) {
   const int r = CurrentRegime();
-  if (r == 0 || !PlaceOnMap()) return 0;
+  if (r == 0 || !SelectionOnMap()) return 0;
   const int u = NewUnitNumber();
   if (u == 0) return 0;
   const int number = NewShqNumber();
@@ -173,7 +172,7 @@ void DropShq(int unit) {
 void NewUnitDialog::Prepare() {
   static const char* const kWords[kKinds] = {"Land Formation = ", "Navy Fleet = ", "Air Wing = ", "THQ = ", "SHQ = "};
   const int r = CurrentRegime();
-  const bool place = PlaceOnMap();
+  const bool place = SelectionOnMap();
   const HexRec& h = place ? Hex[UI.SelX][UI.SelY] : Hex[0][0];
   bool sea = false;
   if (place) {
@@ -237,7 +236,7 @@ bool NewUnitDialog::Act(const std::string& action, const std::string&, std::stri
 }
 
 void NewCommand() {
-  if (!PlaceOnMap()) return;
+  if (!SelectionOnMap()) return;
   // In the editor the unit is the hex owner's, and free.
   const Long saved = Game.CurRegime;
   if (Editing()) Game.CurRegime = Hex[UI.SelX][UI.SelY].Owner;

@@ -6,6 +6,7 @@
 #include "model/bounds.h"
 #include "model/cleared_with_tables.h"
 #include "model/game_state.h"
+#include "model/order_registers.h"
 #include "model/stack.h"
 
 namespace mf {
@@ -41,17 +42,6 @@ const OrderButtonInfo kButtons[kOrderButtonCount] = {
 
 const char* const kCancelCaption = "CANCEL ORDER";
 
-bool Editing() { return UI.EditMode == 1; }
-
-// The formation in a stack slot of a hex, 0 for none or bad data.
-int UnitAt(long x, long y, long slot) {
-  if (!ValidHex(static_cast<int>(x), static_cast<int>(y)) || slot < 1 || slot > kStackSlots) return 0;
-  const long u = Hex[x][y].Unit[slot];
-  return ValidUnit(static_cast<int>(u)) ? static_cast<int>(u) : 0;
-}
-int SelectedUnit() { return UnitAt(UI.SelX, UI.SelY, UI.SelSlot); }
-bool SelectionOnMap() { return ValidHex(static_cast<int>(UI.SelX), static_cast<int>(UI.SelY)); }
-HexRec& SelectedHex() { return SelectionOnMap() ? Hex[UI.SelX][UI.SelY] : Hex[0][0]; }
 
 // Whose the selection is: the hex's owner, or for a formation on a neutral
 // hex (at sea) the formation's regime.

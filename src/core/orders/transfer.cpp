@@ -10,11 +10,13 @@
 #include "model/cleared_with_tables.h"
 #include "model/counter_pic.h"
 #include "model/game_state.h"
+#include "model/order_registers.h"
 #include "model/stack.h"
 #include "model/type_lookup.h"
 #include "orders/flood.h"
 #include "orders/order_buttons.h"
 #include "orders/transport.h"
+#include "platform/say.h"
 
 namespace mf {
 
@@ -27,11 +29,6 @@ const bool kClearedWithTables = ClearedWithTables([] { TransferRequest = Transfe
 
 namespace {
 
-int UnitAt(long x, long y, long slot) {
-  if (!ValidHex(static_cast<int>(x), static_cast<int>(y)) || slot < 1 || slot > kStackSlots) return 0;
-  const long u = Hex[x][y].Unit[slot];
-  return ValidUnit(static_cast<int>(u)) ? static_cast<int>(u) : 0;
-}
 
 // The pool of an SHQ unit; nullptr for anything else.
 ShqRec* PoolPtr(int u) {
@@ -64,7 +61,6 @@ double Divider(int ev) {
   return d == 0 ? 1.0 : static_cast<double>(d);
 }
 
-void Say(const std::string& text) { Plat().ShowMessage(text, ""); }
 
 // Kind of a unit in the chain of command.
 enum Rank { kFormation, kThqRank, kShqRank };

@@ -17,6 +17,7 @@
 #include "orders/order_buttons.h"
 #include "orders/sight.h"
 #include "platform/platform.h"
+#include "platform/say.h"
 
 namespace mf {
 
@@ -34,7 +35,6 @@ namespace {
 constexpr int kSoundFighter = 13;  // "att_fighter.wav"
 constexpr Short kOutOfReach = 999;
 
-void Say(const std::string& text) { Plat().ShowMessage(text, ""); }
 
 void Sound(int slot) {
   if (UI.SoundOff == 0) Plat().PlaySound(slot);
@@ -55,7 +55,6 @@ int SlotOf(int x, int y, int unit) {
   return 0;
 }
 
-bool NoTroops(const UnitRec& u) { return u.InfQty < 1 && u.MobQty < 1 && u.ArtQty < 1 && u.ArmQty < 1; }
 
 Long ReadinessLess(Long readiness, long loss) {
   const long r = readiness - loss;
@@ -294,7 +293,7 @@ void doAirlift() {
   if (emptyOrOwn && (FirstFreeSlot(tx, ty) == 0 || (tx == ox && ty == oy))) return;
 
   const long before = Unit[wing].MobQty;
-  doInterdict();
+  FlyAirMission();
   const double share = Surviving(before, Unit[wing].MobQty);
   UnitRec& l = Unit[lifted];
   for (int cls = 1; cls <= 4; ++cls) {
@@ -385,7 +384,7 @@ void doAirsupply() {
 
   // 5. The flight.
   const long before = Unit[wing].MobQty;
-  doInterdict();
+  FlyAirMission();
   const double share = Surviving(before, Unit[wing].MobQty);
   need = Int(static_cast<double>(need) * share);
   if (need == 0 || share == 0) {
@@ -454,7 +453,7 @@ void doAirMission() {
     Say("You can only strategicly bomb Towns!");
     return;
   }
-  doInterdict();
+  FlyAirMission();
   ClearFlood();
   UI.Order.InterdictOrder = 0;
   UI.Order.StratBombOrder = 0;

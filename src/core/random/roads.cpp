@@ -117,7 +117,7 @@ void BuildRoads() {
       }
 
   RoadFlood flood;
-  const int count = static_cast<int>(AI.AreaCount);
+  const int count = LastArea();
   for (int a = 1; a <= count; ++a)
     for (int b = a + 1; b <= count; ++b)
       if (AI.AreaLandBorder[a][b] == 1)

@@ -68,7 +68,7 @@ int StatusRegime() {
   return ValidRegime(owner) ? static_cast<int>(owner) : 0;
 }
 
-std::vector<std::string> dostatusHex() {
+std::vector<std::string> HexStatusReport() {
   std::vector<std::string> out;
   if (!ValidHex(UI.SelX, UI.SelY)) {
     Plat().ShowMessage("No hex selected before going to status report.", "");
@@ -97,7 +97,7 @@ std::vector<std::string> dostatusHex() {
   return out;
 }
 
-std::vector<std::string> dostatusOOB() {
+std::vector<std::string> OrderOfBattleReport() {
   std::vector<std::string> out;
   out.push_back("YOUR ORDER OF BATTLE: (OOB)");
   const int r = StatusRegime();
@@ -153,7 +153,7 @@ std::vector<std::string> dostatusOOB() {
   return out;
 }
 
-std::vector<std::string> dostatusSupply() {
+std::vector<std::string> SupplySystemReport() {
   std::vector<std::string> out;
   out.push_back("CURRENT PRODUCTION:");
   const int r = StatusRegime();
@@ -214,9 +214,9 @@ void StatusDialog::Prepare() {
 void StatusDialog::Show(int which) {
   report = std::clamp(which, 1, 3);
   UI.StatusReport = report;
-  if (report == 1) lines = dostatusHex();
-  if (report == 2) lines = dostatusOOB();
-  if (report == 3) lines = dostatusSupply();
+  if (report == 1) lines = HexStatusReport();
+  if (report == 2) lines = OrderOfBattleReport();
+  if (report == 3) lines = SupplySystemReport();
   Plat().ShowReport(lines);
 }
 

@@ -20,14 +20,14 @@ int StatusRegime();
 // and for a route over the sea the port it came ashore in, or the open shore
 // line with its "(50% penalty)". Empty, after the message "No hex selected
 // before going to status report.", when no hex is selected.
-std::vector<std::string> dostatusHex();
+std::vector<std::string> HexStatusReport();
 // "YOUR ORDER OF BATTLE: (OOB)": each SHQ with its pool and its THQs with
 // their formations, then the formations without a chain under a line of dots.
-std::vector<std::string> dostatusOOB();
+std::vector<std::string> OrderOfBattleReport();
 // "CURRENT PRODUCTION:" with what each town makes this turn, then "YOUR
 // SUPPLY SYSTEM:" with each SHQ's towns, the formations it served and the
 // sums of both.
-std::vector<std::string> dostatusSupply();
+std::vector<std::string> SupplySystemReport();
 
 class StatusDialog : public HumbleDialog {
  public:

@@ -65,6 +65,27 @@ TEST_F(AITablesTest, IndicesOutsideTheTablesAreRefused) {
   EXPECT_FALSE(SetField("AI.AreaX[0]", "3", &why));
 }
 
+TEST_F(AITablesTest, LoopsOverAreasAndFrontsStayInsideTheTables) {
+  AI.AreaCount = 7;
+  AI.FrontCount = 12;
+  EXPECT_EQ(LastArea(), 7);
+  EXPECT_EQ(LastFront(), 12);
+  EXPECT_TRUE(AIValidFront(12));
+  EXPECT_FALSE(AIValidFront(13));
+  EXPECT_FALSE(AIValidFront(0));
+  AI.AreaCount = kAreaCap + 5;  // a count set by hand past the tables
+  AI.FrontCount = -3;
+  EXPECT_EQ(LastArea(), kAreaCap);
+  EXPECT_EQ(LastFront(), 0);
+  EXPECT_FALSE(AIValidFront(1));
+  AI.FrontCount = kFrontCap + 1;
+  EXPECT_TRUE(AIValidFront(kFrontCap));
+  EXPECT_FALSE(AIValidFront(kFrontCap + 1));
+  EXPECT_TRUE(ValidArea(kAreaCap));
+  EXPECT_FALSE(ValidArea(kAreaCap + 1));
+  EXPECT_FALSE(ValidArea(0));
+}
+
 TEST_F(AITablesTest, TheHexWorkingFieldsOfTheAnalysisAreNamed) {
   test::world::NewMap(5, 5);
   Set("Hex[2,3].Area", "4");

@@ -23,7 +23,7 @@ class InterceptionTest : public AirSeaTest {
     UI.Order.InterdictOrder = 1;
     Origin(3, 5, 1);
     Select(6, 5, 1);
-    doInterdict();
+    FlyAirMission();
   }
   static int IndexOf(const std::string& line) {
     const auto& log = Log();
@@ -113,7 +113,7 @@ TEST_F(InterceptionTest, FightersScreenTheBombersAndFireBackEveryRound) {
   UI.Order.InterdictOrder = 1;
   Origin(2, 5, 1);
   Select(6, 5, 1);
-  doInterdict();
+  FlyAirMission();
   EXPECT_EQ(Log().front(), "Interdict");
   EXPECT_EQ(LogCount("Attacker lost 2 fighters due to Intercept."), 3);
   EXPECT_EQ(LogLines("Defender (interceptor) lost ").size(), 3u);
@@ -330,7 +330,7 @@ TEST_F(InterceptionTest, ATargetShotDownInTheAirIsNotStruckAgain) {
   UI.Order.InterdictOrder = 1;
   Origin(3, 5, 1);
   Select(7, 5, 1);
-  doInterdict();
+  FlyAirMission();
   EXPECT_TRUE(LogHas("Attack intercepted by Blue Wing"));
   EXPECT_EQ(Unit[wing].Regime, 0);
   EXPECT_TRUE(LogLines("Defender lost").empty());

@@ -75,7 +75,7 @@ TEST_F(MissionTest, InterdictionWithInterceptionAndAntiAircraft) {
   Origin(3, 5, 1);
   Select(6, 5, 1);
   SeedRnd(7);
-  doInterdict();
+  FlyAirMission();
   const float next = Rnd();
   InstallPlatform(&platform);
 
@@ -213,7 +213,7 @@ TEST_F(MissionTest, StrategicBombingPastACarrierWingAndFlak) {
   Origin(2, 3, 1);
   Select(7, 3, 1);
   SeedRnd(99);
-  doInterdict();
+  FlyAirMission();
   const float next = Rnd();
 
   const std::vector<std::string> log = {"Strategic Bombing",

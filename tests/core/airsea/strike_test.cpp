@@ -17,7 +17,7 @@ class StrikeTest : public AirSeaTest {
     UI.Order.StratBombOrder = strategic ? 1 : 0;
     Origin(2, 5, 1);
     Select(tx, ty, tslot);
-    doInterdict();
+    FlyAirMission();
   }
   int Wing(int fighters, int bombers) {
     const int w = Put(red, 2, 5, "Red Wing");
@@ -76,7 +76,7 @@ TEST_F(StrikeTest, WhatTheGunsFireAt) {
   UI.Order.AirliftOrder = 1;
   Origin(2, 5, 1);
   Select(6, 5, 1);
-  doInterdict();
+  FlyAirMission();
   EXPECT_EQ(Log().front(), "AirLift/Drop");
   EXPECT_TRUE(LogHas("Defender has 100 AA pts gathered in and around hex."));
   EXPECT_TRUE(LogLines("Attacker lost").empty());
@@ -87,7 +87,7 @@ TEST_F(StrikeTest, WhatTheGunsFireAt) {
   Give(lifter, 1, fighter, 8);
   UI.Order.AirliftOrder = 0;
   UI.Order.AirSupplyOrder = 1;
-  doInterdict();
+  FlyAirMission();
   EXPECT_EQ(Log().front(), "AirSupply");
   EXPECT_EQ(LogLines("Attacker lost"), (std::vector<std::string>{"Attacker lost 5 fighters due to AA.",
                                                                    "Attacker lost 4 transporters due to AA"}));
@@ -103,7 +103,7 @@ TEST_F(StrikeTest, WhatTheGunsFireAt) {
   UI.Order.AirSupplyOrder = 0;
   UI.Order.InterdictOrder = 1;
   Origin(2, 6, 1);
-  doInterdict();
+  FlyAirMission();
   EXPECT_EQ(LogLines("Attacker lost"), (std::vector<std::string>{"Attacker lost 2 fighters due to AA.",
                                                                    "Attacker lost 1 bombers due to AA."}));
   EXPECT_EQ(Unit[strike].MobQty, 5);
@@ -418,7 +418,7 @@ TEST_F(StrikeTest, MovementCostOfAStrike) {
   UI.Order.InterdictOrder = 0;
   UI.Order.AirSupplyOrder = 1;
   Origin(2, 5, 1);
-  doInterdict();
+  FlyAirMission();
   EXPECT_EQ(Unit[w].MP, 6);
   UI.Order.AirSupplyOrder = 0;
 
@@ -432,7 +432,7 @@ TEST_F(StrikeTest, MovementCostOfAStrike) {
   Origin(3, 3, 1);
   Select(6, 5, 1);
   EXPECT_EQ(AirMissionUnit(), deck);
-  doInterdict();
+  FlyAirMission();
   EXPECT_EQ(Unit[deck].MP, 1);
   EXPECT_EQ(Unit[carrier].MP, 10);
 }
@@ -460,7 +460,7 @@ TEST_F(StrikeTest, AFlightShotToPiecesIsGone) {
   UI.Order.InterdictOrder = 1;
   Origin(3, 3, 1);
   Select(6, 5, 1);
-  doInterdict();
+  FlyAirMission();
   EXPECT_EQ(Unit[deck].Regime, 0);
   EXPECT_EQ(Unit[carrier].Cargo, 0);
   EXPECT_EQ(Hex[3][3].Unit[1], carrier);

@@ -1,6 +1,6 @@
 // The balance of the default rule set under the real rules: counters of the
 // default formations, seeded battles between them fought through doAttack
-// and doInterdict, and turn starts of the shipped scenarios through the real
+// and FlyAirMission, and turn starts of the shipped scenarios through the real
 // driver. The battle tests run many seeds and assert a property with a
 // tolerance, so that a change of the numbers that breaks the balance fails
 // here; each prints what it measured (docs/content-format.md quotes them).
@@ -304,7 +304,7 @@ class Balance : public CoreTest {
         UI.Order.InterdictOrder = 1;
       }
       SeedRnd(static_cast<std::uint32_t>(seed * 7919));
-      doInterdict();
+      FlyAirMission();
       UI.Order = OrderFlags{};
       const long wingAfter = Unit[wing].Regime == red_ ? AllPieces(wing) : 0;
       out.wingLost += 1.0 - static_cast<double>(wingAfter) / wingBefore;

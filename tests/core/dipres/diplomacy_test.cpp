@@ -167,7 +167,7 @@ TEST_F(DiplomacyTest, AnEventSetCostOf999HidesTheButton) {
   // An event makes peace and fixes the pair, as the diplomacy event does:
   // relation and price both ways, the turn as the last change.
   Pair(2, 1, 1, 999, 7);
-  doDipUpdate(d);
+  d.Refill();
   EXPECT_EQ(d.rows[0].text, "At peace with Red");
   EXPECT_FALSE(d.rows[0].buttonShown);
   EXPECT_FALSE(d.rows[0].buttonEnabled);
@@ -178,7 +178,7 @@ TEST_F(DiplomacyTest, AnEventSetCostOf999HidesTheButton) {
   EXPECT_TRUE(Messages().empty());
   // 998 is a price like any other.
   Pair(2, 1, 1, 998, 7);
-  doDipUpdate(d);
+  d.Refill();
   EXPECT_TRUE(d.rows[0].buttonShown);
   EXPECT_EQ(d.rows[0].buttonCaption, "Declare War for 998 PP");
 }
@@ -202,7 +202,7 @@ TEST_F(DiplomacyTest, ADisabledOrMissingButtonCannotBePressed) {
 
 TEST_F(DiplomacyTest, DoDipRunsTheDialogForTheRegimeWhoseTurnItIs) {
   keeper.QueueDialog("diplomatics", {{"row", "1"}});
-  doDip();
+  OpenDiplomaticsDialog();
   ASSERT_EQ(keeper.dipOpened.size(), 1u);
   EXPECT_EQ(keeper.dipOpened[0].speaker, 2);
   EXPECT_FALSE(keeper.dipOpened[0].editing);
@@ -239,7 +239,7 @@ class DiplomacyEditTest : public DiplomacyTest {
 };
 
 TEST_F(DiplomacyEditTest, TheEditorSpeaksForTheOwnerOfTheSelectedHex) {
-  doDip();
+  OpenDiplomaticsDialog();
   ASSERT_EQ(keeper.dipOpened.size(), 1u);
   const DiplomaticsDialog& d = keeper.dipOpened[0];
   EXPECT_EQ(d.speaker, 2);
@@ -303,7 +303,7 @@ TEST_F(DiplomacyEditTest, AnUnequalPairIsMadeEqual) {
 TEST_F(DiplomacyEditTest, ANeutralHexOpensNothing) {
   UI.SelX = 6;
   UI.SelY = 6;
-  doDip();
+  OpenDiplomaticsDialog();
   EXPECT_TRUE(keeper.dipOpened.empty());
   EXPECT_TRUE(keeper.Events().empty());
 }

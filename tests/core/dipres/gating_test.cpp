@@ -44,7 +44,7 @@ TEST_F(GatingTest, BuyingTheFieldOpensTheType) {
   Regime[1].PP = 40;
   keeper.QueueDialog("research", {{"field", "12"}, {"buy", ""}});
   EXPECT_FALSE(TypeResearchKnown(1, tank));
-  doRes();
+  OpenResearchDialog();
   EXPECT_EQ(keeper.Messages(), std::vector<std::string>{"You gained a research field"});
   EXPECT_EQ(Regime[1].PP, 0);
   EXPECT_TRUE(TypeResearchKnown(1, tank));
@@ -70,7 +70,7 @@ TEST_F(GatingTest, BuyingTheFieldPutsTheTypeOnTheProductionList) {
   before.Prepare(3, 3);
   EXPECT_EQ(before.typeOfRow, std::vector<int>{rifles});
   keeper.QueueDialog("research", {{"field", "12"}, {"buy", ""}});
-  doRes();
+  OpenResearchDialog();
   UrbanProductionDialog after;
   after.Prepare(3, 3);
   EXPECT_EQ(after.typeOfRow, (std::vector<int>{rifles, tank}));

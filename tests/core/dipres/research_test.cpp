@@ -340,7 +340,7 @@ TEST_F(ResearchTest, WipingAField) {
 
 TEST_F(ResearchTest, DoResBuysForTheRegimeWhoseTurnItIs) {
   keeper.QueueDialog("research", {{"field", "1"}, {"buy", ""}});
-  doRes();
+  OpenResearchDialog();
   ASSERT_EQ(keeper.resOpened.size(), 1u);
   EXPECT_EQ(keeper.resOpened[0].regime, 1);
   EXPECT_FALSE(keeper.resOpened[0].editButtonsShown);
@@ -361,7 +361,7 @@ TEST_F(ResearchTest, TheEditorTakesTheRegimeFromTheSelectedFormation) {
   UI.SelY = 2;
   UI.SelSlot = 2;
   keeper.QueueDialog("research", {{"field", "3"}, {"buy", ""}});
-  doRes();
+  OpenResearchDialog();
   ASSERT_EQ(keeper.resOpened.size(), 1u);
   EXPECT_EQ(keeper.resOpened[0].regime, 2);
   EXPECT_TRUE(keeper.resOpened[0].editButtonsShown);
@@ -379,7 +379,7 @@ TEST_F(ResearchTest, TheEditorWithoutAFormationOnlyEditsTheTree) {
   UI.SelSlot = 0;
   keeper.QueueAnswer("Cavalry");
   keeper.QueueDialog("research", {{"field", "1"}, {"buy", ""}, {"name", ""}});
-  doRes();
+  OpenResearchDialog();
   ASSERT_EQ(keeper.resOpened.size(), 1u);
   EXPECT_EQ(keeper.resOpened[0].regime, 0);
   EXPECT_EQ(keeper.resOpened[0].pointsLabel, "(0pp available)");
@@ -392,7 +392,7 @@ TEST_F(ResearchTest, TheEditorWithoutAFormationOnlyEditsTheTree) {
 
 TEST_F(ResearchTest, NoDialogWithoutARegimeInPlay) {
   Game.CurRegime = 0;
-  doRes();
+  OpenResearchDialog();
   EXPECT_TRUE(keeper.resOpened.empty());
 }
 

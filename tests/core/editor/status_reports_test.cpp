@@ -62,27 +62,27 @@ TEST_F(StatusReportTest, AHexReachedThroughAPortAndOverOpenShore) {
   // First Army: 2 over land to Westport, 3 sea hexes, 1 to land in
   // Eastport, 1 to (8, 2). Second Army: 2 to Southport, 3 sea hexes, 1 to
   // land on the shore (7, 4), 1 to (7, 3), 1 to (8, 2).
-  EXPECT_EQ(dostatusHex(), (Lines{"HEX STATUS 8,2", "Hex is supplied by First Army", "   -distance: 7",
+  EXPECT_EQ(HexStatusReport(), (Lines{"HEX STATUS 8,2", "Hex is supplied by First Army", "   -distance: 7",
                                   "   -supply entered through port: Eastport", "Hex is supplied by Second Army",
                                   "   -distance: 8", "   -supply did not enter through port (50% penalty)"}));
   EXPECT_EQ(Unit[second].Shq, 2);
   // A hex on the home side was reached over land only: no port line.
   UI.SelX = 2;
-  EXPECT_EQ(dostatusHex(), (Lines{"HEX STATUS 2,2", "Hex is supplied by First Army", "   -distance: 1"}));
+  EXPECT_EQ(HexStatusReport(), (Lines{"HEX STATUS 2,2", "Hex is supplied by First Army", "   -distance: 1"}));
 }
 
 TEST_F(StatusReportTest, AHexNoSHQReachesHasOnlyItsHeading) {
   ServeSupply();
   UI.SelX = 5;
   UI.SelY = 7;  // nobody's grass
-  EXPECT_EQ(dostatusHex(), (Lines{"HEX STATUS 5,7"}));
+  EXPECT_EQ(HexStatusReport(), (Lines{"HEX STATUS 5,7"}));
   EXPECT_TRUE(Messages().empty());
 }
 
 TEST_F(StatusReportTest, WithoutASelectedHexTheReportRefuses) {
   UI.SelX = 0;
   UI.SelY = 0;
-  EXPECT_TRUE(dostatusHex().empty());
+  EXPECT_TRUE(HexStatusReport().empty());
   EXPECT_EQ(Messages(), (Lines{"No hex selected before going to status report."}));
 }
 
@@ -103,7 +103,7 @@ TEST_F(StatusReportTest, TheOrderOfBattleWithPoolCorpsAndALooseFormation) {
   AddFormation(1, 8, 2, shq, rifles, 10, "Guards");
   AddFormation(1, 9, 2, 0, rifles, 10, "Lone");
   AddFormation(2, 9, 5, 0, rifles, 10, "Enemy");  // Blue's: not in Red's list
-  EXPECT_EQ(dostatusOOB(), (Lines{"YOUR ORDER OF BATTLE: (OOB)", "SHQ: First Army", "30x Rifles", "2x Tanks",
+  EXPECT_EQ(OrderOfBattleReport(), (Lines{"YOUR ORDER OF BATTLE: (OOB)", "SHQ: First Army", "30x Rifles", "2x Tanks",
                                   "......THQ: 1st Corps", "............: Able", "............: Baker",
                                   "......THQ: 2nd Corps", "............: Charlie", "......: Guards",
                                   "........................................", "......: Lone"}));
@@ -112,7 +112,7 @@ TEST_F(StatusReportTest, TheOrderOfBattleWithPoolCorpsAndALooseFormation) {
 TEST_F(StatusReportTest, AThqWithoutAnShqStandsBelowTheDotsWithItsFormations) {
   const int lost = AddThq(1, 3, 2, 0, "Lost Corps");
   AddFormation(1, 4, 2, lost, rifles, 1, "Straggler");
-  EXPECT_EQ(dostatusOOB(), (Lines{"YOUR ORDER OF BATTLE: (OOB)", "SHQ: First Army",
+  EXPECT_EQ(OrderOfBattleReport(), (Lines{"YOUR ORDER OF BATTLE: (OOB)", "SHQ: First Army",
                                   "........................................", "......THQ: Lost Corps",
                                   "............: Straggler"}));
 }
@@ -139,7 +139,7 @@ TEST_F(StatusReportTest, TheSupplyReportWithItsTownsFormationsAndSums) {
   ServeSupply();
   ASSERT_EQ(Unit[shq].GenSupply, 1000);
   ASSERT_EQ(Unit[shq].SupplyDemand, 150);
-  EXPECT_EQ(dostatusSupply(),
+  EXPECT_EQ(SupplySystemReport(),
             (Lines{"CURRENT PRODUCTION:", "Marrowby produces 2 Political Point(s)",
                    "Ironford produces 300 Extra Supply Points", "Gunworks produces 30x Rifles", "",
                    "YOUR SUPPLY SYSTEM:", "SHQ: First Army", "IS SUPPLIED BY THE FOLLOWING TOWNS: ",
@@ -156,7 +156,7 @@ TEST_F(StatusReportTest, BeforeTheFirstTurnNothingHasBeenServed) {
   UI.EditMode = 1;
   UI.SelX = 2;
   UI.SelY = 2;  // in the editor the report is the selected hex's owner's
-  EXPECT_EQ(dostatusSupply(), (Lines{"CURRENT PRODUCTION:", "Marrowby produces 2 Political Point(s)", "",
+  EXPECT_EQ(SupplySystemReport(), (Lines{"CURRENT PRODUCTION:", "Marrowby produces 2 Political Point(s)", "",
                                      "YOUR SUPPLY SYSTEM:", "SHQ: First Army", "IS SUPPLIED BY THE FOLLOWING TOWNS: ",
                                      "HAS SUPPLIED THE FOLLOWING UNITS THIS TURN: ",
                                      "SHQ INPUT = 0     SHQ OUTPUT = 0"}));
@@ -226,10 +226,10 @@ TEST_F(StatusReportTest, TheClassWordsOfEveryTheater) {
 }
 
 TEST_F(StatusReportTest, TheInfoDialogShowsItsLinesAsAReport) {
-  doinfo(rifles);
+  OpenTypeInfoDialog(rifles);
   EXPECT_EQ(Reports(), (Lines{"Rifles (100)", "INFANTRY", "Weight = 1", "Movement Cap = 3", "Supply Need = 10"}));
   platform.Clear();
-  doinfo(Game.TypeCount + 1);  // no such type: nothing opens
+  OpenTypeInfoDialog(Game.TypeCount + 1);  // no such type: nothing opens
   EXPECT_TRUE(platform.Events().empty());
 }
 

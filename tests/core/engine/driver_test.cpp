@@ -25,7 +25,7 @@ TEST_F(DriverTest, TheFirstStartIsTurnOneRegimeOneWithEvents) {
   EXPECT_EQ(Game.CurRegime, 1);
   EXPECT_EQ(Count("RunEvents"), 1);
   // Events run before regime 1 sees anything.
-  EXPECT_LT(IndexOf("RunEvents"), IndexOf("doNewTurnForm"));
+  EXPECT_LT(IndexOf("RunEvents"), IndexOf("RunNewTurnDialog"));
 }
 
 TEST_F(DriverTest, RegimesFollowInNumberOrderAndEventsRunOnceAGameTurn) {
@@ -43,10 +43,10 @@ TEST_F(DriverTest, RegimesFollowInNumberOrderAndEventsRunOnceAGameTurn) {
   // Each game turn's events come right before regime 1's dialog.
   std::vector<std::string> order;
   for (const auto& s : steps)
-    if (s == "RunEvents" || s == "doNewTurnForm") order.push_back(s);
-  const std::vector<std::string> wantOrder{"RunEvents",     "doNewTurnForm", "doNewTurnForm", "doNewTurnForm",
-                                           "RunEvents",     "doNewTurnForm", "doNewTurnForm", "doNewTurnForm",
-                                           "RunEvents",     "doNewTurnForm"};
+    if (s == "RunEvents" || s == "RunNewTurnDialog") order.push_back(s);
+  const std::vector<std::string> wantOrder{"RunEvents",     "RunNewTurnDialog", "RunNewTurnDialog", "RunNewTurnDialog",
+                                           "RunEvents",     "RunNewTurnDialog", "RunNewTurnDialog", "RunNewTurnDialog",
+                                           "RunEvents",     "RunNewTurnDialog"};
   EXPECT_EQ(order, wantOrder);
 }
 
@@ -84,7 +84,7 @@ TEST_F(DriverTest, AResumedTurnDoesNotAdvance) {
   EXPECT_EQ(Count("RunEvents"), 0);
   EXPECT_EQ(News[2][1].Text, "Kept");
   EXPECT_FALSE(UI.ResumeTurn);
-  EXPECT_EQ(Count("doNewTurnForm"), 1);
+  EXPECT_EQ(Count("RunNewTurnDialog"), 1);
   EXPECT_EQ(Count("HexCapture"), 1);
 }
 
@@ -182,7 +182,7 @@ TEST_F(DriverTest, AHumanSeesTheDialogBeforeAnyTurnStartWork) {
   bool mapAtDialog = true;
   std::string labelAtDialog, turnAtDialog;
   onStep = [&](const std::string& step) {
-    if (step != "doNewTurnForm") return;
+    if (step != "RunNewTurnDialog") return;
     fromXAtDialog = Unit[u].FromX;
     supplyAtDialog = Unit[u].SupplyPct;
     demandAtDialog = Unit[u].SupplyDemand;
@@ -200,7 +200,7 @@ TEST_F(DriverTest, AHumanSeesTheDialogBeforeAnyTurnStartWork) {
   // And after it the work is done.
   EXPECT_EQ(Unit[u].FromX, 0);
   EXPECT_EQ(Unit[u].SupplyPct, 0);
-  const std::vector<std::string> order{"doNewTurnForm", "HexCapture", "ServeSupply", "RecoveryPass 4,4,1",
+  const std::vector<std::string> order{"RunNewTurnDialog", "HexCapture", "ServeSupply", "RecoveryPass 4,4,1",
                                        "PoolTransport", "ClearFlood", "SightPass"};
   std::vector<std::string> got(steps.begin() + 1, steps.end());  // after RunEvents
   EXPECT_EQ(got, order);
@@ -266,7 +266,7 @@ TEST_F(DriverTest, EventsShowAfterTheDialogOutsideACampaign) {
   Event[5].ShowAll = 1;
   NextTurn();
   EXPECT_EQ(StepsLike("DoShowEvent"), (std::vector<std::string>{"DoShowEvent 1", "DoShowEvent 4"}));
-  EXPECT_LT(IndexOf("doNewTurnForm"), IndexOf("DoShowEvent 1"));
+  EXPECT_LT(IndexOf("RunNewTurnDialog"), IndexOf("DoShowEvent 1"));
   EXPECT_LT(IndexOf("DoShowEvent 4"), IndexOf("HexCapture"));
   steps.clear();
   EndCurrentTurn();
@@ -280,7 +280,7 @@ TEST_F(DriverTest, InACampaignEventsShowBeforeTheDialog) {
   Event[1].ShowReg1 = 1;
   NextTurn();
   EXPECT_EQ(StepsLike("DoShowEvent"), std::vector<std::string>{"DoShowEvent 1"});
-  EXPECT_LT(IndexOf("DoShowEvent 1"), IndexOf("doNewTurnForm"));
+  EXPECT_LT(IndexOf("DoShowEvent 1"), IndexOf("RunNewTurnDialog"));
 }
 
 TEST_F(DriverTest, AFileNamedByAnEventStopsAHumanTurnStartBeforeTheDialog) {
@@ -294,7 +294,7 @@ TEST_F(DriverTest, AFileNamedByAnEventStopsAHumanTurnStartBeforeTheDialog) {
   };
   NextTurn();
   EXPECT_EQ(UI.PendingFile, "part2.mf1");
-  EXPECT_EQ(Count("doNewTurnForm"), 0);
+  EXPECT_EQ(Count("RunNewTurnDialog"), 0);
   EXPECT_EQ(Count("HexCapture"), 0);
 }
 

@@ -144,7 +144,7 @@ TEST_F(EndTurnTest, TheMapIsPutAwayAndTheNextRegimeStarts) {
   UI.ScrollMaxY = 0;
   bool controlsAtDialog = true, scrollAtDialog = true, busyAtDialog = false;
   onStep = [&](const std::string& step) {
-    if (step != "doNewTurnForm") return;
+    if (step != "RunNewTurnDialog") return;
     controlsAtDialog = UI.MapControlsShown;
     scrollAtDialog = UI.ShowScrollX || UI.ShowScrollY;
     busyAtDialog = UI.BusyPointer;
@@ -152,7 +152,7 @@ TEST_F(EndTurnTest, TheMapIsPutAwayAndTheNextRegimeStarts) {
   EndCurrentTurn();
   EXPECT_EQ(Game.CurRegime, 2);
   EXPECT_EQ(Game.Turn, 4);
-  EXPECT_EQ(Count("doNewTurnForm"), 1);
+  EXPECT_EQ(Count("RunNewTurnDialog"), 1);
   EXPECT_FALSE(controlsAtDialog);
   EXPECT_FALSE(scrollAtDialog);
   EXPECT_TRUE(busyAtDialog);

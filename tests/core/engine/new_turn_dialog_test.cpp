@@ -307,7 +307,7 @@ TEST_F(NewTurnDialogTest, ExitGameAsksFirst) {
 TEST_F(NewTurnDialogTest, TheFormSetsTheLeaveRequest) {
   platform.QueueAnswer("yes");
   QueueNewTurn({{"exit", ""}});
-  doNewTurnForm();
+  RunNewTurnDialog();
   EXPECT_TRUE(UI.ExitAfterTurnForm);
 }
 
@@ -322,7 +322,7 @@ const char* const kResignNotice =
 
 TEST_F(NewTurnDialogTest, ASurrenderLineGivesTheSurrenderNotice) {
   AddNews(1, 0, 991, "Blue surrendered.", 0, 0, 0);
-  doNewTurnForm();
+  RunNewTurnDialog();
   EXPECT_EQ(Messages(), std::vector<std::string>{kSurrenderNotice});
   EXPECT_FALSE(UI.ExitAfterTurnForm);
 }
@@ -330,26 +330,26 @@ TEST_F(NewTurnDialogTest, ASurrenderLineGivesTheSurrenderNotice) {
 TEST_F(NewTurnDialogTest, AWinnerGetsNoSurrenderNotice) {
   Game.GameWinner = 1;
   AddNews(1, 0, 991, "Blue surrendered.", 0, 0, 0);
-  doNewTurnForm();
+  RunNewTurnDialog();
   EXPECT_TRUE(Messages().empty());
 }
 
 TEST_F(NewTurnDialogTest, AResignationLineGivesTheReminderEvenToTheWinner) {
   Game.GameWinner = 1;
   AddNews(1, 0, 992, "Blue surrendered.", 0, 0, 0);
-  doNewTurnForm();
+  RunNewTurnDialog();
   EXPECT_EQ(Messages(), std::vector<std::string>{kResignNotice});
 }
 
 TEST_F(NewTurnDialogTest, OfSeveralNoticeLinesTheLastCounts) {
   AddNews(1, 0, 991, "Blue surrendered.", 0, 0, 0);
   AddNews(1, 0, 992, "Green surrendered.", 0, 0, 0);
-  doNewTurnForm();
+  RunNewTurnDialog();
   EXPECT_EQ(Messages(), std::vector<std::string>{kResignNotice});
   platform.Clear();
   News[1][1].Type = 992;
   News[1][2].Type = 991;
-  doNewTurnForm();
+  RunNewTurnDialog();
   EXPECT_EQ(Messages(), std::vector<std::string>{kSurrenderNotice});
 }
 
@@ -357,7 +357,7 @@ TEST_F(NewTurnDialogTest, NoNoticeWhenThePlayerLeaves) {
   AddNews(1, 0, 991, "Blue surrendered.", 0, 0, 0);
   platform.QueueAnswer("yes");
   QueueNewTurn({{"exit", ""}});
-  doNewTurnForm();
+  RunNewTurnDialog();
   EXPECT_EQ(Messages(), std::vector<std::string>{"Are you sure you want to Quit?"});
 }
 
@@ -374,7 +374,7 @@ TEST_F(NewTurnDialogTest, UnknownActionsAreRefused) {
 TEST_F(NewTurnDialogTest, ARefusedDefaultProceedIsReportedToTheScript) {
   Game.UsePasswords = 1;
   Regime[1].Password = "sesame";
-  doNewTurnForm();
+  RunNewTurnDialog();
   EXPECT_EQ(Messages(), std::vector<std::string>{"Wrong Password"});
   EXPECT_EQ(platform.lastError, "dialog newturn: default proceed: Wrong Password");
 }

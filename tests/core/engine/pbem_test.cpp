@@ -65,7 +65,7 @@ TEST_F(PbemTest, TheTurnPassesThroughTheFileToTheNextPlayer) {
   // Machine of Blue: loading resumes Blue's turn without advancing.
   Long fromXAtDialog = -1, supplyAtDialog = -1, regimeAtDialog = -1, turnAtDialog = -1;
   onStep = [&](const std::string& step) {
-    if (step != "doNewTurnForm") return;
+    if (step != "RunNewTurnDialog") return;
     fromXAtDialog = Unit[blue].FromX;
     supplyAtDialog = Unit[blue].SupplyPct;
     regimeAtDialog = Game.CurRegime;
@@ -75,7 +75,7 @@ TEST_F(PbemTest, TheTurnPassesThroughTheFileToTheNextPlayer) {
   platform.newTurns.clear();
   steps.clear();
   QueueNewTurn({{"password", "tulip"}, {"login", ""}, {"proceed", ""}});
-  ASSERT_TRUE(doGoLoad(file));
+  ASSERT_TRUE(LoadGameFile(file));
   ASSERT_EQ(platform.lastError, "");
   EXPECT_EQ(regimeAtDialog, 2);
   EXPECT_EQ(turnAtDialog, 1);
@@ -85,8 +85,8 @@ TEST_F(PbemTest, TheTurnPassesThroughTheFileToTheNextPlayer) {
   EXPECT_TRUE(platform.newTurns[0].passwordShown);
   EXPECT_EQ(platform.newTurns[0].passwordButtonCaption, "Set this as your password");
   EXPECT_EQ(Count("RunEvents"), 0);
-  EXPECT_EQ(steps.front(), "doNewTurnForm");
-  EXPECT_LT(IndexOf("doNewTurnForm"), IndexOf("HexCapture"));
+  EXPECT_EQ(steps.front(), "RunNewTurnDialog");
+  EXPECT_LT(IndexOf("RunNewTurnDialog"), IndexOf("HexCapture"));
   EXPECT_EQ(Game.CurRegime, 2);
   EXPECT_EQ(Game.Turn, 1);
   EXPECT_EQ(Unit[blue].FromX, 0);
@@ -106,7 +106,7 @@ TEST_F(PbemTest, TheTurnPassesThroughTheFileToTheNextPlayer) {
   platform.Clear();
   platform.newTurns.clear();
   QueueNewTurn({{"password", "tulip"}, {"login", ""}, {"password", "rosebud"}, {"login", ""}, {"proceed", ""}});
-  ASSERT_TRUE(doGoLoad(back));
+  ASSERT_TRUE(LoadGameFile(back));
   EXPECT_EQ(Game.Turn, 2);
   EXPECT_EQ(Game.CurRegime, 1);
   ASSERT_EQ(platform.newTurns.size(), 1u);
@@ -141,7 +141,7 @@ TEST_F(PbemTest, AComputerRegimeBetweenTwoHumansIsPlayedOnTheMachineOfThePlayerW
   ASSERT_EQ(platform.newTurns.size(), 2u);
   EXPECT_EQ(platform.newTurns[1].caption, "Green");
   platform.newTurns.clear();
-  ASSERT_TRUE(doGoLoad(file));
+  ASSERT_TRUE(LoadGameFile(file));
   EXPECT_EQ(Game.CurRegime, 3);
   EXPECT_EQ(Count("AITurn"), 1);
 }
@@ -153,7 +153,7 @@ TEST_F(PbemTest, AGameThatIsNotByMailGoesOnWithoutTheDriver) {
   const std::string file = TempPath("hotseat.mf1");
   ASSERT_TRUE(WriteFile(file));
   steps.clear();
-  ASSERT_TRUE(doGoLoad(file));
+  ASSERT_TRUE(LoadGameFile(file));
   EXPECT_TRUE(steps.empty());
   EXPECT_EQ(Game.CurRegime, 2);
   EXPECT_EQ(UI.HelpText, "Welcome back to your game.");

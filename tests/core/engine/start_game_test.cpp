@@ -232,7 +232,7 @@ TEST_F(StartGameTest, StartingSetsFogOnByDefaultAndRunsTheFirstTurn) {
   EXPECT_FALSE(UI.ShowEditorPanel);
   EXPECT_EQ(Game.Turn, 1);
   EXPECT_EQ(Game.CurRegime, 1);
-  EXPECT_EQ(Count("doNewTurnForm"), 1);
+  EXPECT_EQ(Count("RunNewTurnDialog"), 1);
   EXPECT_FALSE(UI.BusyPointer);
 }
 
@@ -274,7 +274,7 @@ TEST_F(StartGameTest, AComputerRegimeOneStartsTheGameWithItsTurn) {
   EXPECT_EQ(Game.Turn, 1);
   EXPECT_EQ(Game.CurRegime, 1);
   EXPECT_EQ(Count("AITurn"), 1);
-  EXPECT_EQ(Count("doNewTurnForm"), 0);
+  EXPECT_EQ(Count("RunNewTurnDialog"), 0);
   EXPECT_EQ(Game.ShowAIMoves, kTrue);
 }
 

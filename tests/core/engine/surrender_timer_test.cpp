@@ -153,7 +153,7 @@ TEST_F(TimerTest, EachTickEndsOneFinishedComputerTurn) {
   TimerTick();
   EXPECT_EQ(Game.Turn, 2);
   EXPECT_EQ(Game.CurRegime, 1);
-  EXPECT_EQ(Count("doNewTurnForm"), 2);
+  EXPECT_EQ(Count("RunNewTurnDialog"), 2);
   EXPECT_EQ(CheckInvariants(), "");
 }
 
@@ -210,7 +210,7 @@ TEST_F(TimerTest, AnAllComputerGameRunsByItselfOnTicks) {
   EXPECT_EQ(seen, want);
   EXPECT_EQ(Count("AITurn"), 8);
   EXPECT_EQ(Count("RunEvents"), 3);
-  EXPECT_EQ(Count("doNewTurnForm"), 0);
+  EXPECT_EQ(Count("RunNewTurnDialog"), 0);
   // A game that plays itself rings (2) at the end of every computer turn;
   // every end of turn clicks (1).
   std::vector<int> sounds{2};
@@ -275,7 +275,7 @@ TEST_F(TimerTest, ThePendingFileOfACampaignIsLoadedAndPlayedOn) {
   EXPECT_EQ(Game.Turn, 1);
   EXPECT_EQ(Game.CurRegime, 1);
   EXPECT_EQ(UI.PendingFile, "");
-  EXPECT_EQ(Count("doNewTurnForm"), 1);
+  EXPECT_EQ(Count("RunNewTurnDialog"), 1);
   EXPECT_TRUE(Messages().empty());  // a campaign file loads silently
   ASSERT_EQ(platform.newTurns.size(), 1u);
   EXPECT_EQ(platform.newTurns[0].caption, "Hero");

@@ -25,7 +25,7 @@ class AshfallCampaign : public CoreTest {
       if (onShow && step.rfind("DoShowEvent ", 0) == 0) onShow(std::stoi(step.substr(12)));
       // The player's points just before and just after the events of a turn.
       if (step == "RunEvents") pointsBeforeEvents = Regime[1].PP;
-      if (step == "doNewTurnForm") pointsAfterEvents = Regime[1].PP;
+      if (step == "RunNewTurnDialog") pointsAfterEvents = Regime[1].PP;
     });
   }
   void TearDown() override {

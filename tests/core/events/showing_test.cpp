@@ -139,7 +139,7 @@ TEST_F(EventShowing, OutsideACampaignEventsComeAfterTheNewTurnDialog) {
   EngineVar[704].Value = 0;
   NextTurn();
   ASSERT_TRUE(Called("DoShowEvent 1"));
-  EXPECT_LT(IndexOf("doNewTurnForm"), IndexOf("DoShowEvent 1"));
+  EXPECT_LT(IndexOf("RunNewTurnDialog"), IndexOf("DoShowEvent 1"));
   EXPECT_LT(IndexOf("DoShowEvent 1"), IndexOf("HexCapture"));
 }
 
@@ -149,7 +149,7 @@ TEST_F(EventShowing, InACampaignEventsComeBeforeTheNewTurnDialog) {
   EngineVar[704].Value = 1;
   NextTurn();
   ASSERT_TRUE(Called("DoShowEvent 1"));
-  EXPECT_LT(IndexOf("DoShowEvent 1"), IndexOf("doNewTurnForm"));
+  EXPECT_LT(IndexOf("DoShowEvent 1"), IndexOf("RunNewTurnDialog"));
 }
 
 TEST_F(EventShowing, TheComputerIsShownNothing) {
@@ -198,7 +198,7 @@ TEST_F(EventShowing, AFileEventStopsACampaignTurnBeforeTheNewTurnDialog) {
   // Every event of the turn is shown, then the driver stops.
   EXPECT_EQ(ShownEvents(), (std::vector<int>{story, file, after}));
   EXPECT_EQ(UI.PendingFile, "next.mf2");
-  EXPECT_FALSE(Called("doNewTurnForm"));
+  EXPECT_FALSE(Called("RunNewTurnDialog"));
   EXPECT_FALSE(Called("HexCapture"));
   EXPECT_FALSE(Called("SightPass"));
 }
@@ -211,7 +211,7 @@ TEST_F(EventShowing, OutsideACampaignAFileEventLetsTheTurnGoOn) {
   Event[file].ShowReg1 = red;
   Event[file].DataText[1] = "next.mf2";
   NextTurn();
-  EXPECT_TRUE(Called("doNewTurnForm"));
+  EXPECT_TRUE(Called("RunNewTurnDialog"));
   EXPECT_TRUE(Called("HexCapture"));
   EXPECT_EQ(UI.PendingFile, "next.mf2");
   EXPECT_TRUE(UI.MapShown);
@@ -248,7 +248,7 @@ TEST_F(EventShowing, TheTimerLoadsTheNextFileOfACampaign) {
   EXPECT_EQ(Game.Turn, 1);
   EXPECT_EQ(Game.CurRegime, 1);
   EXPECT_EQ(ShownEvents(), std::vector<int>{1});
-  EXPECT_TRUE(Called("doNewTurnForm"));
+  EXPECT_TRUE(Called("RunNewTurnDialog"));
   EXPECT_EQ(UI.HelpText, "Your turn 1 has started.");
   EXPECT_FALSE(UI.BusyPointer);
   EXPECT_EQ(CheckInvariants(), "");

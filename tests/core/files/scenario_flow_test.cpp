@@ -233,8 +233,8 @@ TEST_F(ScenarioFlow, AFolderOrADeviceIsRefusedAndTheGameKept) {
   const std::string folder = TempPath("folder.mf1");
   fs::create_directories(folder);
   dialogs.Clear();
-  EXPECT_FALSE(doGoLoad(folder));
-  EXPECT_FALSE(doGoLoad("/dev/null"));
+  EXPECT_FALSE(LoadGameFile(folder));
+  EXPECT_FALSE(LoadGameFile("/dev/null"));
   EXPECT_FALSE(ImportFile(folder));
   EXPECT_EQ(Shown(), (std::vector<std::string>{"Cannot read " + folder + ": it is a folder.",
                                               "Cannot read /dev/null: it is not a regular file.",
@@ -272,7 +272,7 @@ TEST_F(ScenarioFlow, ADamagedFileWithExtremeValuesPlaysTwoTurns) {
   set("Regime[2].PP", " 2147483647 ");
   const std::string path = TempPath("damaged.mf1");
   WriteBytes(path, Flipped(JoinLines(lines)));
-  ASSERT_TRUE(doGoLoad(path));
+  ASSERT_TRUE(LoadGameFile(path));
   EXPECT_EQ(Dip[1][2].Cost, 999);
   EXPECT_EQ(EngineVar[538].Value, 2000000);
   EXPECT_EQ(Regime[1].PP, -2147483647 - 1);
@@ -400,7 +400,7 @@ TEST_F(ScenarioFlow, DoGoLoadOfAMapToEdit) {
   UI.SelX = 7;
   UI.SelY = 8;
   dialogs.Clear();
-  ASSERT_TRUE(doGoLoad(path));
+  ASSERT_TRUE(LoadGameFile(path));
   EXPECT_EQ(Shown(), std::vector<std::string>{"Loaded"});
   EXPECT_EQ(Game.UnitCount, 2);
   EXPECT_EQ(Unit[50].Regime, 0);
@@ -417,7 +417,7 @@ TEST_F(ScenarioFlow, DoGoLoadOfAMapToEdit) {
 TEST_F(ScenarioFlow, DoGoLoadOfASavedGame) {
   const std::string path = SavedScenario("game.mf1", 3);
   ClearForLoad();
-  ASSERT_TRUE(doGoLoad(path));
+  ASSERT_TRUE(LoadGameFile(path));
   EXPECT_EQ(UI.EditMode, 0);
   EXPECT_EQ(UI.HelpText, "Welcome back to your game.");
   EXPECT_EQ(UI.RegimeLabel, "Blue");
@@ -437,7 +437,7 @@ TEST_F(ScenarioFlow, DoGoLoadOfAPbemGameResumesTheSavedRegime) {
   const std::string path = TempPath("pbem.mf1");
   ASSERT_TRUE(WriteFile(path));
   ClearForLoad();
-  ASSERT_TRUE(doGoLoad(path));
+  ASSERT_TRUE(LoadGameFile(path));
   // The driver resumes the regime of the file instead of advancing.
   EXPECT_EQ(Game.Turn, 3);
   EXPECT_EQ(Game.CurRegime, 2);
@@ -448,7 +448,7 @@ TEST_F(ScenarioFlow, DoGoLoadOfAPbemGameResumesTheSavedRegime) {
 
 TEST_F(ScenarioFlow, DoGoLoadStopsWhenTheReadFails) {
   world::NewMap(30, 30);
-  EXPECT_FALSE(doGoLoad(TempPath("gone.mf1")));
+  EXPECT_FALSE(LoadGameFile(TempPath("gone.mf1")));
   EXPECT_EQ(Shown(), std::vector<std::string>{"File does not exist"});
   EXPECT_EQ(Game.MapW, 10);  // the clear before the read has happened
 }

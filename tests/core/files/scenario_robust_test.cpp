@@ -404,7 +404,7 @@ TEST_F(ScenarioRobust, GarbageFileThroughTheWholeLoad) {
   std::string bytes(5000, '\0');
   for (char& c : bytes) c = static_cast<char>(any(gen));
   WriteBytes(path, bytes);
-  doGoLoad(path);
+  LoadGameFile(path);
   EXPECT_EQ(RangeProblem(), "");
 }
 

@@ -283,7 +283,7 @@ TEST_F(OfficerPoolTest, DoPoolInTheEditorServesTheSelectedUnitsRegime) {
   Regime[blue].PP = 3;
   Select(8, 8);
   platform.QueueDialog("officerpool", {{"buy", ""}});
-  doPool();
+  OpenOfficerPoolDialog();
   // Blue's pool got an officer for Blue's point, and the editor has no
   // regime to move again.
   EXPECT_EQ(Regime[blue].PP, 2);

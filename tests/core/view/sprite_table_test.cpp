@@ -234,14 +234,14 @@ TEST_F(SpriteTableTest, FoldersNamedInAFileWithACleanFlagAreOverwrittenOnLoad) {
   const std::string dirty = TempPath("dirty.mf1");
   ASSERT_TRUE(WriteFile(dirty));
 
-  ASSERT_TRUE(doGoLoad(clean));
+  ASSERT_TRUE(LoadGameFile(clean));
   EXPECT_EQ(Game.DirMap, "\\default\\map");
   EXPECT_EQ(Game.DirType, "\\default\\type");
   EXPECT_EQ(Game.GraphicsDirty, 0);
 
   // A file whose folders were changed keeps them for this load, and its flag
   // is cleared once they are read.
-  ASSERT_TRUE(doGoLoad(dirty));
+  ASSERT_TRUE(LoadGameFile(dirty));
   EXPECT_EQ(Game.DirMap, "\\custom\\map");
   EXPECT_EQ(Game.DirType, "\\custom\\type");
   EXPECT_EQ(Game.GraphicsDirty, 0);
