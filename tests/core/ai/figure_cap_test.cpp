@@ -4,10 +4,8 @@
 
 #include "ai/ai_state.h"
 #include "ai/production.h"
-#include "ai/reshape.h"
 #include "files/scenario_schema.h"
 #include "logistics_test_util.h"
-#include "ops_test_util.h"
 
 namespace mf::test {
 namespace {
@@ -30,35 +28,6 @@ TEST_F(FigureCapProduction, BestTypeAddsAttributesAtTheCap) {
   gun("Also short", kFigureCap - 1);
   AIBestType();
   EXPECT_EQ(AI.BestType[kLandTheater][3], full);
-}
-
-class FigureCapReshape : public OpsTest {
- protected:
-  void SetUp() override {
-    OpsTest::SetUp();
-    front = LandFront(3);
-    Regime[red].PP = 10;
-    EngineVar[611].Value = 1;
-  }
-  int front = 0;
-};
-
-// With the soft attack that occupies (rule 101) at a million, no formation
-// is worth six times it: a strong one on a front that is not crowded stays
-// whole. At the default (250, six times 1500) the same one is split.
-TEST_F(FigureCapReshape, NoFormationIsWorthSixTimesAMillion) {
-  AI.FrontStance[front] = 0;
-  AI.FrontShare[front] = 100;
-  AI.FrontWeight[front] = 100;
-  EngineVar[101].Value = kFigureCap;
-  const int strong = Rifles(red, 2, 1, 100, front);
-  Rifles(red, 1, 2, 50, front);
-  AIUnitSplitMerge();
-  EXPECT_EQ(Unit[strong].InfQty, 100);
-  EXPECT_EQ(Hex[2][1].Unit[2], 0);
-  EngineVar[101].Value = 250;
-  AIUnitSplitMerge();
-  EXPECT_EQ(Unit[strong].InfQty, 50);
 }
 
 }  // namespace

@@ -3,6 +3,7 @@
 
 #include "ai/ai_state.h"
 #include "ai/reshape.h"
+#include "files/scenario_schema.h"
 #include "ops_test_util.h"
 
 namespace mf::test {
@@ -161,6 +162,24 @@ TEST_F(ReshapeTest, ShipsInOnePortJoinUp) {
   EXPECT_EQ(Unit[first].Regime, 0);
   EXPECT_EQ(Unit[second].MobQty, 5);
   EXPECT_EQ(Hex[1][1].Unit[1], second);
+}
+
+// With the soft attack that occupies (rule 101) at a million, no formation
+// is worth six times it: a strong one on a front that is not crowded stays
+// whole. At the default (250, six times 1500) the same one is split.
+TEST_F(ReshapeTest, NoFormationIsWorthSixTimesAMillion) {
+  AI.FrontStance[front] = 0;
+  AI.FrontShare[front] = 100;
+  AI.FrontWeight[front] = 100;
+  EngineVar[101].Value = kFigureCap;
+  const int strong = Rifles(red, 2, 1, 100, front);
+  Rifles(red, 1, 2, 50, front);
+  AIUnitSplitMerge();
+  EXPECT_EQ(Unit[strong].InfQty, 100);
+  EXPECT_EQ(Hex[2][1].Unit[2], 0);
+  EngineVar[101].Value = 250;
+  AIUnitSplitMerge();
+  EXPECT_EQ(Unit[strong].InfQty, 50);
 }
 
 }  // namespace
